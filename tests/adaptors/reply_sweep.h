@@ -21,8 +21,8 @@ void sweep_replies(size_t record, Operation operation) {
   size_t length = 0;
   bool length_told = true;
   Responder responder([&](const Request&) {
-    Response response = Response::with(
-        Bytes(bytes->begin(), bytes->begin() + static_cast<std::ptrdiff_t>(length)));
+    Response response =
+        Response::with(Bytes(bytes->begin(), bytes->begin() + static_cast<std::ptrdiff_t>(length)));
     response.length_left_alone = !length_told;
     return response;
   });

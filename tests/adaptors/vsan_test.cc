@@ -32,7 +32,9 @@ Bytes entry_message(uint32_t vsan) {
       .byte(2627, 0x78);
 }
 
-Bytes request_for(uint32_t vsan) { return Record(2632).be32(520, vsan); }
+Bytes request_for(uint32_t vsan) {
+  return Record(2632).be32(520, vsan);
+}
 
 vsanNewEntry_t entry_asking_for(uint32_t vsan) {
   vsanNewEntry_t entry{};
@@ -114,8 +116,7 @@ TEST_F(VsanAdaptor, AStatusIsPassedOnAndTheEntryIsBackInHostOrder) {
 
 TEST_F(VsanAdaptor, AFailureThatHandsOutAReplyFreesIt) {
   Script script;
-  script.expect(get(149).sap(15).any_request())
-      .status_with_reply(kEndOfTable, entry_message(99));
+  script.expect(get(149).sap(15).any_request()).status_with_reply(kEndOfTable, entry_message(99));
   vsanNewEntry_t entry = entry_asking_for(3);
   EXPECT_EQ(vsan_cim_get_vsanEntry(kQueue, 1, &entry), 0x40330005);
   EXPECT_EQ(entry.vsan_index, 3u);
@@ -217,10 +218,10 @@ TEST_F(VsanAdaptor, ACountThatCannotBeReadLeavesTheCallersNumber) {
       .replies(hex("00 00 00 03"))
       .cut_to(3)
       .length_left_alone();
-  script.expect(get(125).sap(15).no_request().length(4))
-      .status_with_reply(17, hex("00 00 00 03"));
+  script.expect(get(125).sap(15).no_request().length(4)).status_with_reply(17, hex("00 00 00 03"));
   int32_t count = 42;
-  for (int i = 0; i < 5; ++i) EXPECT_EQ(vsan_cim_get_vsan_num(kQueue, &count, 1), -1) << i;
+  for (int i = 0; i < 5; ++i)
+    EXPECT_EQ(vsan_cim_get_vsan_num(kQueue, &count, 1), -1) << i;
   EXPECT_EQ(count, 42);
   EXPECT_EQ(vsan_cim_get_vsan_num(kQueue, nullptr, 1), -1);
 }
