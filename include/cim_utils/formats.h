@@ -12,7 +12,7 @@
  * - Hexadecimal fields are read as scanf reads "%2x", in either case. A text of the right length
  *   always succeeds: from the first field on that holds no number, the bytes are 0.
  * - Nothing is allocated. Three functions return a buffer of the library, which the next call
- *   overwrites; callers serialise their calls (global_mutex of <cim_utils/session.h>).
+ *   overwrites; callers serialise their calls (global_mutex).
  * - Only the domain/interface writers and the IPv6 writers ask the platform, and those only its
  *   local functions: no service is contacted.
  */
