@@ -143,7 +143,7 @@ struct Class {
   std::vector<Method> methods;       ///< of this declaration only
   bool is_association = false;       ///< inherited; known once the class is in a Repository
   bool is_indication = false;        ///< likewise
-  bool is_abstract = false;          ///< likewise, but never inherited
+  bool is_abstract = false;          ///< likewise, but not inherited
   Position position;                 ///< of the class name
   Position superclass_position;
 
@@ -154,6 +154,9 @@ struct Class {
 /// The same declaration: everything but positions and the letter case of names.
 bool same_declaration(const Qualifier& a, const Qualifier& b);
 bool same_declaration(const QualifierDeclaration& a, const QualifierDeclaration& b);
+bool same_declaration(const Property& a, const Property& b);
+bool same_declaration(const Parameter& a, const Parameter& b);
+bool same_declaration(const Method& a, const Method& b);
 bool same_declaration(const Class& a, const Class& b);
 
 /// One `Name = value;` of an instance. The value has the type of its literal; an alias (`$Name`) is

@@ -37,8 +37,8 @@ struct FileContent {
 };
 
 struct ReadOptions {
-  std::size_t max_file_bytes = std::size_t{16} << 20;   ///< a larger file is refused
-  std::size_t max_total_bytes = std::size_t{64} << 20;  ///< of a text and all it includes
+  std::size_t max_file_bytes = std::size_t{8} << 20;    ///< a larger file is refused
+  std::size_t max_total_bytes = std::size_t{32} << 20;  ///< of a text and all it includes
   std::size_t max_include_depth = 16;
   std::size_t max_errors = 50;  ///< reading stops there
   /// Reads a file; empty: regular files of the file system.

@@ -38,9 +38,9 @@ class Repository {
   const Class* find(std::string_view name) const;
   const QualifierDeclaration* find_qualifier_declaration(std::string_view name) const;
 
-  /// All classes, qualifier declarations and instances, in the order they were added. Property
-  /// values of the instances have their declared types.
+  /// All classes, superclasses before their subclasses, otherwise in the order they were added.
   std::span<const Class* const> all() const;
+  /// All of them, in the order they were added. Instance values have their declared types.
   std::span<const QualifierDeclaration* const> qualifier_declarations() const;
   std::span<const InstanceDeclaration* const> instances() const;
 
@@ -51,10 +51,10 @@ class Repository {
   const Class* superclass(const Class& cls) const;
 
   /// The classes that derive from `name`: directly, or with `deep` through any number of steps.
-  /// Superclasses come before their subclasses; otherwise in the order they were added.
+  /// In the order of all().
   std::vector<const Class*> subclasses(std::string_view name, bool deep) const;
 
-  /// The names of all classes as a "; did you mean 'X'?" for a name that is none; may be empty.
+  /// "; did you mean 'X'?" for the class whose name is nearest to `name`; empty when none is near.
   std::string suggest_class(std::string_view name) const;
 
   // Everything a class has, inherited or its own. Superclasses come first; what a subclass

@@ -102,7 +102,7 @@ struct ValueResult {
 };
 
 /// The value as another type. Refused where the type or its range does not allow it: an integer
-/// fits any integer or real type that holds it exactly, a string may become a datetime or a
+/// fits every integer type whose range holds it and every real, a string may become a datetime or a
 /// reference, char16 and boolean become nothing else. Null becomes a null of the type.
 /// `is_array` of the value must agree.
 ValueResult convert(const Value& value, Type type, bool is_array);
