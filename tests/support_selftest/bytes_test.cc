@@ -5,6 +5,7 @@
 #include <set>
 #include <stdexcept>
 #include <string>
+#include <string>
 
 namespace test_support {
 namespace {
@@ -55,9 +56,9 @@ TEST(Bytes, DifferenceNamesTheFirstDifferingOffset) {
 }
 
 TEST(Bytes, PatternsDifferFromEachOtherAndStayTheSame) {
-  std::set<Bytes> seen;
+  std::set<std::string> seen;
   for (unsigned n = 0; n < kPatterns; ++n)
-    seen.insert(pattern(n, 64));
+    seen.insert(hexdump(pattern(n, 64)));
   EXPECT_EQ(seen.size(), kPatterns);
   EXPECT_EQ(pattern(2, 4), hex("00 01 02 03"));
   EXPECT_EQ(pattern(3, 4), hex("41 42 43 44"));
