@@ -127,6 +127,10 @@ bool has_length(const char* text, std::size_t length) {
 
 // ---- Decimal numbers
 
+bool is_digit(char c) {
+  return c >= '0' && c <= '9';
+}
+
 struct Octet {
   char digits[3];
   uint8_t length;
@@ -177,21 +181,28 @@ char* put_at_least_two_digits(char* dst, uint8_t value) {
 
 constexpr std::size_t kIpNumbers = 8;
 
+// A number of one to three digits; the result is the place behind it, null where there is none.
+const char* read_short_number(const char* text, unsigned int& number) {
+  number = static_cast<unsigned int>(*text) - '0';
+  if (number > 9) return nullptr;
+  ++text;
+  for (int more = 0; more < 2; ++more, ++text) {
+    const unsigned int digit = static_cast<unsigned int>(*text) - '0';
+    if (digit > 9) return text;
+    number = number * 10 + digit;
+  }
+  return text;
+}
+
 // "%u.%u.%u.%u/%u.%u.%u.%u" made of nothing but short numbers and their separators.
 bool read_plain_ip_with_mask(const char* text, unsigned int* numbers) {
-  constexpr char kSeparators[kIpNumbers + 1] = "..././..";
-  constexpr std::ptrdiff_t kMostDigits = 9;  // never more than 32 bits
+  constexpr char kSeparators[] = ".../...";
   for (std::size_t i = 0; i < kIpNumbers; ++i) {
-    const char* const first = text;
-    unsigned int number = 0;
-    for (; *text >= '0' && *text <= '9' && text - first < kMostDigits; ++text) {
-      number = number * 10 + static_cast<unsigned int>(*text - '0');
-    }
-    if (text == first || (*text >= '0' && *text <= '9')) return false;
-    numbers[i] = number;
-    if (i + 1 < kIpNumbers && *text++ != kSeparators[i]) return false;
+    if (i > 0 && *text++ != kSeparators[i - 1]) return false;
+    text = read_short_number(text, numbers[i]);
+    if (text == nullptr) return false;
   }
-  return true;
+  return !is_digit(*text);
 }
 
 bool read_ip_with_mask(const char* text, unsigned int* n) {
@@ -431,9 +442,13 @@ int cim_get_hex_from_str_dom_interface(const char* text, uint8_t record[12]) {
 
 int32_t is_valid_number(const char* text, int32_t n) {
   if (text == nullptr) return kFailed;
+  constexpr int32_t kMostPlainDigits = 9;  // never more than 31 bits
+  int32_t plain = 0;
   for (int32_t i = 0; i < n; ++i) {
-    if (text[i] < '0' || text[i] > '9') return kFailed;
+    if (!is_digit(text[i])) return kFailed;
+    if (i < kMostPlainDigits) plain = plain * 10 + (text[i] - '0');
   }
+  if (n > 0 && n <= kMostPlainDigits && !is_digit(text[n])) return plain;
   const long number = std::strtol(text, nullptr, 10);
   if (number > INT32_MAX) return INT32_MAX;
   if (number < INT32_MIN) return INT32_MIN;
@@ -442,9 +457,11 @@ int32_t is_valid_number(const char* text, int32_t n) {
 
 int parse_domain_port(const char* text, uint32_t out[2]) {
   if (text == nullptr || out == nullptr) return kFailed;
-  char copy[100] = {};
-  std::memcpy(copy, text, strnlen(text, sizeof copy - 1));
-  if (copy[0] == '\0') return 0;
+  char copy[100];
+  const std::size_t length = strnlen(text, sizeof copy - 1);
+  if (length == 0) return 0;
+  std::memcpy(copy, text, length);
+  copy[length] = '\0';
 
   // As strtok splits: colons in front do not count, the first one behind the domain does.
   const char* const domain_text = copy + std::strspn(copy, ":");
