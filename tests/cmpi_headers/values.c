@@ -1,7 +1,7 @@
 /* Numbers of the CMPI interface, checked as C. */
 #include <cmpidt.h>
 
-/* BaseTypes */
+/* Base types */
 _Static_assert(CMPI_null == 0, "CMPI_null");
 _Static_assert(CMPI_boolean == 2, "CMPI_boolean");
 _Static_assert(CMPI_char16 == 3, "CMPI_char16");
@@ -27,7 +27,7 @@ _Static_assert(CMPI_dateTime == 0x1800, "CMPI_dateTime");
 _Static_assert(CMPI_ptr == 0x1900, "CMPI_ptr");
 _Static_assert(CMPI_charsptr == 0x1a00, "CMPI_charsptr");
 
-/* GroupMasks */
+/* Group masks */
 _Static_assert(CMPI_SIMPLE == 2, "CMPI_SIMPLE");
 _Static_assert(CMPI_REAL == 8, "CMPI_REAL");
 _Static_assert(CMPI_UINT == 0x80, "CMPI_UINT");
@@ -36,7 +36,7 @@ _Static_assert(CMPI_INTEGER == 0xc0, "CMPI_INTEGER");
 _Static_assert(CMPI_ENC == 0x1000, "CMPI_ENC");
 _Static_assert(CMPI_ARRAY == 0x2000, "CMPI_ARRAY");
 
-/* ArrayTypes */
+/* Array types */
 _Static_assert(CMPI_booleanA == 0x2002, "CMPI_booleanA");
 _Static_assert(CMPI_char16A == 0x2003, "CMPI_char16A");
 _Static_assert(CMPI_real32A == 0x2008, "CMPI_real32A");
@@ -76,7 +76,7 @@ _Static_assert(CMPI_dateTimeString == 0x1e00, "CMPI_dateTimeString");
 _Static_assert(CMPI_classNameString == 0x1700, "CMPI_classNameString");
 _Static_assert(CMPI_nameString == 0x1e00, "CMPI_nameString");
 
-/* StatusCodes */
+/* Status codes */
 _Static_assert(CMPI_RC_OK == 0, "CMPI_RC_OK");
 _Static_assert(CMPI_RC_ERR_FAILED == 1, "CMPI_RC_ERR_FAILED");
 _Static_assert(CMPI_RC_ERR_ACCESS_DENIED == 2, "CMPI_RC_ERR_ACCESS_DENIED");
@@ -108,14 +108,14 @@ _Static_assert(CMPI_RC_ERR_NOT_IN_CODEPAGE == 62, "CMPI_RC_ERR_NOT_IN_CODEPAGE")
 _Static_assert(CMPI_RC_ERROR_SYSTEM == 100, "CMPI_RC_ERROR_SYSTEM");
 _Static_assert(CMPI_RC_ERROR == 200, "CMPI_RC_ERROR");
 
-/* ValueStates */
+/* Value states */
 _Static_assert(CMPI_goodValue == 0, "CMPI_goodValue");
 _Static_assert(CMPI_nullValue == 0x100, "CMPI_nullValue");
 _Static_assert(CMPI_keyValue == 0x200, "CMPI_keyValue");
 _Static_assert(CMPI_notFound == 0x400, "CMPI_notFound");
 _Static_assert(CMPI_badValue == 0x8000, "CMPI_badValue");
 
-/* BrokerCapabilities */
+/* Broker capabilities */
 _Static_assert(CMPI_MB_BasicRead == 1, "CMPI_MB_BasicRead");
 _Static_assert(CMPI_MB_Class_0 == 1, "CMPI_MB_Class_0");
 _Static_assert(CMPI_MB_BasicWrite == 3, "CMPI_MB_BasicWrite");
@@ -141,7 +141,7 @@ _Static_assert(CMPI_MB_Tracing == 0x20000, "CMPI_MB_Tracing");
 _Static_assert(CMPI_MB_PropertyFiltering == 0x40001, "CMPI_MB_PropertyFiltering");
 _Static_assert(CMPI_MB_CodepageConversion == 0x80000, "CMPI_MB_CodepageConversion");
 
-/* FlagsSeveritiesLevelsAndOperators */
+/* Invocation flags, severities, trace levels, predicate operators */
 _Static_assert(CMPI_FLAG_DeepInheritance == 2, "CMPI_FLAG_DeepInheritance");
 _Static_assert(CMPI_FLAG_IncludeClassOrigin == 8, "CMPI_FLAG_IncludeClassOrigin");
 _Static_assert(CMPI_FLAG_IncludeQualifiers == 4, "CMPI_FLAG_IncludeQualifiers");
@@ -168,11 +168,11 @@ _Static_assert(CMPI_PredOp_Null == 12, "CMPI_PredOp_Null");
 _Static_assert(CMPI_PredOp_And == 13, "CMPI_PredOp_And");
 _Static_assert(CMPI_PredOp_Or == 14, "CMPI_PredOp_Or");
 
-/* ConditionForms */
+/* Forms of conditions */
 _Static_assert(CMPI_COND_COD == 1, "CMPI_COND_COD");
 _Static_assert(CMPI_COND_DOC == 0, "CMPI_COND_DOC");
 
-/* ErrorTypes */
+/* Error types */
 _Static_assert(UnknownErrorType == 0, "UnknownErrorType");
 _Static_assert(OtherErrorType == 1, "OtherErrorType");
 _Static_assert(CommunicationsError == 2, "CommunicationsError");
@@ -186,19 +186,19 @@ _Static_assert(UnavailableResourceError == 9, "UnavailableResourceError");
 _Static_assert(UnsupportedOperationError == 10, "UnsupportedOperationError");
 _Static_assert(OversubscriptionError == 8, "OversubscriptionError");
 
-/* ErrorSeverities */
+/* Error severities */
 _Static_assert(ErrorSevUnknown == 0, "ErrorSevUnknown");
 _Static_assert(ErrorSevLow == 2, "ErrorSevLow");
 _Static_assert(ErrorSevMedium == 3, "ErrorSevMedium");
 _Static_assert(ErrorSevHigh == 4, "ErrorSevHigh");
 _Static_assert(ErrorSevFatal == 5, "ErrorSevFatal");
 
-/* ErrorSourceFormats */
+/* Error source formats */
 _Static_assert(UnknownErrorSrcFormat == 0, "UnknownErrorSrcFormat");
 _Static_assert(OtherErrorSrcFormat == 1, "OtherErrorSrcFormat");
 _Static_assert(CIMObjectHandle == 2, "CIMObjectHandle");
 
-/* ProbableCauses */
+/* Probable causes */
 _Static_assert(ErrorProbableCauseUnknown == 0, "ErrorProbableCauseUnknown");
 _Static_assert(ErrorProbableCauseOther == 1, "ErrorProbableCauseOther");
 _Static_assert(Adapter_Card_Error == 2, "Adapter_Card_Error");
