@@ -176,7 +176,9 @@ int32_t vsan_cim_get_vsan_key_fields(const char* key, uint32_t* vsan, char* wwn)
     std::memset(wwn, '0', kWwnText);  // no terminator: callers hand in a buffer that ends in zero
   } else {
     get_vsan_value(copy[1], copy[2], copy[3], vsan);
-    std::snprintf(wwn, kWwnText + 1, "%s", copy);
+    const size_t length = strnlen(copy, kWwnText);
+    std::memcpy(wwn, copy, length);
+    wwn[length] = '\0';
   }
   std::printf(" Vsan Index is %d\n", static_cast<int>(*vsan));
   return 0;

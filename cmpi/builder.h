@@ -55,6 +55,7 @@ class CmpiBuilder final : public model::Builder {
     void path(model::Ref) final {}
 
    protected:
+    ~Writer() = default;
     virtual void set(const char* name, const CMPIValue* value, CMPIType type) = 0;
     const CMPIBroker* broker() const { return broker_; }
 

@@ -46,6 +46,7 @@ class PegasusBuilder final : public model::Builder {
     void reference(const char* role, model::Ref end) final;
 
    protected:
+    ~Writer() = default;
     virtual void set(const char* name, const Pegasus::CIMValue& value) = 0;
   };
 

@@ -52,7 +52,7 @@ void copy_qualifiers(const CIMClass& from, CIMInstance& instance) {
   for (Uint32 i = 0; i < instance.getPropertyCount(); ++i) {
     CIMProperty property = instance.getProperty(i);
     const Uint32 position = from.findProperty(property.getName());
-    if (position == Pegasus::PEG_NOT_FOUND) {
+    if (position == PEG_NOT_FOUND) {
       std::printf("ProviderUtil::addQualifiers() - NO SUCH property exception: %s\n",
                   static_cast<const char*>(property.getName().getString().getCString()));
       continue;
