@@ -248,35 +248,35 @@ void Array<T>::remove(Uint32 index, Uint32 size) {
   _rep->size = total - size;
 }
 
-template class PEGASUS_EXPORT Array<Boolean>;
-template class PEGASUS_EXPORT Array<char>;
-template class PEGASUS_EXPORT Array<Uint8>;
-template class PEGASUS_EXPORT Array<Sint8>;
-template class PEGASUS_EXPORT Array<Uint16>;
-template class PEGASUS_EXPORT Array<Sint16>;
-template class PEGASUS_EXPORT Array<Uint32>;
-template class PEGASUS_EXPORT Array<Sint32>;
-template class PEGASUS_EXPORT Array<Uint64>;
-template class PEGASUS_EXPORT Array<Sint64>;
-template class PEGASUS_EXPORT Array<Real32>;
-template class PEGASUS_EXPORT Array<Real64>;
-template class PEGASUS_EXPORT Array<Char16>;
-template class PEGASUS_EXPORT Array<String>;
-template class PEGASUS_EXPORT Array<CIMDateTime>;
-template class PEGASUS_EXPORT Array<CIMName>;
-template class PEGASUS_EXPORT Array<CIMNamespaceName>;
-template class PEGASUS_EXPORT Array<CIMObjectPath>;
-template class PEGASUS_EXPORT Array<CIMKeyBinding>;
-template class PEGASUS_EXPORT Array<CIMValue>;
-template class PEGASUS_EXPORT Array<CIMProperty>;
-template class PEGASUS_EXPORT Array<CIMQualifier>;
-template class PEGASUS_EXPORT Array<CIMQualifierDecl>;
-template class PEGASUS_EXPORT Array<CIMParameter>;
-template class PEGASUS_EXPORT Array<CIMParamValue>;
-template class PEGASUS_EXPORT Array<CIMMethod>;
-template class PEGASUS_EXPORT Array<CIMClass>;
-template class PEGASUS_EXPORT Array<CIMInstance>;
-template class PEGASUS_EXPORT Array<CIMObject>;
+template class Array<Boolean>;
+template class Array<char>;
+template class Array<Uint8>;
+template class Array<Sint8>;
+template class Array<Uint16>;
+template class Array<Sint16>;
+template class Array<Uint32>;
+template class Array<Sint32>;
+template class Array<Uint64>;
+template class Array<Sint64>;
+template class Array<Real32>;
+template class Array<Real64>;
+template class Array<Char16>;
+template class Array<String>;
+template class Array<CIMDateTime>;
+template class Array<CIMName>;
+template class Array<CIMNamespaceName>;
+template class Array<CIMObjectPath>;
+template class Array<CIMKeyBinding>;
+template class Array<CIMValue>;
+template class Array<CIMProperty>;
+template class Array<CIMQualifier>;
+template class Array<CIMQualifierDecl>;
+template class Array<CIMParameter>;
+template class Array<CIMParamValue>;
+template class Array<CIMMethod>;
+template class Array<CIMClass>;
+template class Array<CIMInstance>;
+template class Array<CIMObject>;
 
 }  // namespace vexor_compat
 }  // namespace Pegasus

@@ -1,11 +1,11 @@
 #include <Pegasus/Common/CIMObjectPath.h>
 
 #include <algorithm>
-#include <cerrno>
+#include <charconv>
 #include <cstdint>
-#include <cstdlib>
 #include <optional>
 #include <string>
+#include <system_error>
 
 #include "pegasus_compat/reps.h"
 
@@ -67,10 +67,10 @@ Number realNumber(double value) {
 }
 
 std::optional<Number> integer(const std::string& digits, int base, bool minus) {
-  char* end = nullptr;
-  errno = 0;
-  const uint64_t magnitude = std::strtoull(digits.c_str(), &end, base);
-  if (*end != '\0' || end == digits.c_str() || errno != 0) return std::nullopt;
+  uint64_t magnitude = 0;
+  const char* last = digits.data() + digits.size();
+  const auto read = std::from_chars(digits.data(), last, magnitude, base);
+  if (read.ec != std::errc() || read.ptr != last) return std::nullopt;
   if (!minus || magnitude == 0) return Number{Number::Kind::natural, magnitude};
   if (magnitude > uint64_t{1} << 63) return std::nullopt;
   return Number{Number::Kind::negative, 0, static_cast<int64_t>(0 - magnitude)};
@@ -100,9 +100,10 @@ std::optional<Number> parseNumber(const String& text) {
     return integer(rest, rest.size() > 1 && rest[0] == '0' ? 8 : 10, minus);
   }
   if (rest.find_first_not_of("0123456789.eE+-") != std::string::npos) return std::nullopt;
-  char* end = nullptr;
-  const double value = std::strtod(rest.c_str(), &end);
-  if (*end != '\0' || rest.find('.') == std::string::npos) return std::nullopt;
+  double value = 0;
+  const char* last = rest.data() + rest.size();
+  const auto read = std::from_chars(rest.data(), last, value);
+  if (read.ec != std::errc() || read.ptr != last) return std::nullopt;
   return realNumber(minus ? -value : value);
 }
 
@@ -374,8 +375,7 @@ CIMObjectPath& CIMObjectPath::operator=(const String& objectName) {
 // The path's own representation, copied first if others share it.
 CIMObjectPathRep& CIMObjectPath::changeable() {
   if (_rep == nullptr || _rep->shared()) {
-    RepHandle<CIMObjectPathRep>::operator=(
-        RepHandle<CIMObjectPathRep>(new CIMObjectPathRep(pathOf(*this))));
+    *this = CIMObjectPath(new CIMObjectPathRep(pathOf(*this)));
   }
   return *_rep;
 }
@@ -387,14 +387,14 @@ void CIMObjectPath::clear() {
 void CIMObjectPath::set(const String& host, const CIMNamespaceName& nameSpace,
                         const CIMName& className, const Array<CIMKeyBinding>& keyBindings) {
   checkedHost(host);
-  RepHandle<CIMObjectPathRep> fresh(new CIMObjectPathRep);
-  CIMObjectPathRep& rep = RepAccess::checked(fresh);
+  CIMObjectPath fresh(new CIMObjectPathRep);
+  CIMObjectPathRep& rep = *fresh._rep;
   rep.host = host;
   rep.nameSpace = nameSpace;
   rep.className = className;
   rep.keyBindings = keyBindings;
   sortByName(rep.keyBindings);
-  RepHandle<CIMObjectPathRep>::operator=(fresh);
+  *this = fresh;
 }
 
 void CIMObjectPath::set(const String& objectName) {

@@ -34,9 +34,10 @@ CIMPropertyList::CIMPropertyList(const Array<CIMName>& propertyNames) {
 void CIMPropertyList::set(const Array<CIMName>& propertyNames) {
   for (Uint32 i = 0; i < propertyNames.size(); ++i)
     required(propertyNames[i]);
-  RepHandle<CIMPropertyListRep>::operator=(RepHandle<CIMPropertyListRep>(new CIMPropertyListRep));
-  _rep->names = propertyNames;
-  _rep->tags = tagsOf(propertyNames);
+  CIMPropertyList fresh(new CIMPropertyListRep);
+  fresh._rep->names = propertyNames;
+  fresh._rep->tags = tagsOf(propertyNames);
+  *this = fresh;
 }
 
 void CIMPropertyList::clear() {

@@ -1,7 +1,6 @@
 #include <Pegasus/Common/CIMValue.h>
 
-#include <cstdio>
-#include <string>
+#include <charconv>
 #include <type_traits>
 
 #include "pegasus_compat/reps.h"
@@ -182,12 +181,6 @@ bool same(std::monostate, std::monostate) {
   return true;
 }
 
-String formatted(const char* format, double value) {
-  char text[64];
-  std::snprintf(text, sizeof(text), format, value);
-  return String(text);
-}
-
 String asText(Boolean x) {
   return String(x ? "TRUE" : "FALSE");
 }
@@ -208,13 +201,6 @@ String asText(const CIMObject& x) {
 }
 String asText(const CIMInstance& x) {
   return CIMObject(x).toString();
-}
-// As many digits as it takes to read the same number back.
-String asText(Real32 x) {
-  return formatted("%.9g", x);
-}
-String asText(Real64 x) {
-  return formatted("%.17g", x);
 }
 template <class T>
 requires std::is_integral_v<T> String asText(const T& x) {
@@ -271,40 +257,40 @@ CIMValue::CIMValue() = default;
 CIMValue::CIMValue(CIMType type, Boolean isArray, Uint32 arraySize) {
   setNullValue(type, isArray, arraySize);
 }
-CIMValue::CIMValue(Boolean x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(Uint8 x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(Sint8 x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(Uint16 x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(Sint16 x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(Uint32 x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(Sint32 x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(Uint64 x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(Sint64 x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(Real32 x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(Real64 x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const Char16& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const String& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const CIMDateTime& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const CIMObjectPath& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const CIMObject& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const CIMInstance& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const Array<Boolean>& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const Array<Uint8>& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const Array<Sint8>& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const Array<Uint16>& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const Array<Sint16>& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const Array<Uint32>& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const Array<Sint32>& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const Array<Uint64>& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const Array<Sint64>& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const Array<Real32>& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const Array<Real64>& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const Array<Char16>& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const Array<String>& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const Array<CIMDateTime>& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const Array<CIMObjectPath>& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const Array<CIMObject>& x) : RepHandle<CIMValueRep>(newRep(x)) {}
-CIMValue::CIMValue(const Array<CIMInstance>& x) : RepHandle<CIMValueRep>(newRep(x)) {}
+CIMValue::CIMValue(Boolean x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(Uint8 x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(Sint8 x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(Uint16 x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(Sint16 x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(Uint32 x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(Sint32 x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(Uint64 x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(Sint64 x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(Real32 x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(Real64 x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const Char16& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const String& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const CIMDateTime& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const CIMObjectPath& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const CIMObject& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const CIMInstance& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const Array<Boolean>& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const Array<Uint8>& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const Array<Sint8>& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const Array<Uint16>& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const Array<Sint16>& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const Array<Uint32>& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const Array<Sint32>& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const Array<Uint64>& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const Array<Sint64>& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const Array<Real32>& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const Array<Real64>& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const Array<Char16>& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const Array<String>& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const Array<CIMDateTime>& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const Array<CIMObjectPath>& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const Array<CIMObject>& x) : CIMValue(newRep(x)) {}
+CIMValue::CIMValue(const Array<CIMInstance>& x) : CIMValue(newRep(x)) {}
 CIMValue::CIMValue(char x) : CIMValue(static_cast<Sint8>(x)) {}
 CIMValue::CIMValue(const Array<char>& x) {
   set(x);
@@ -350,7 +336,7 @@ void CIMValue::setNullValue(CIMType type, Boolean isArray, Uint32 arraySize) {
   rep->type = type;
   rep->isArray = isArray;
   rep->nullArraySize = arraySize;
-  RepHandle<CIMValueRep>::operator=(RepHandle<CIMValueRep>(rep));
+  *this = CIMValue(rep);
 }
 
 void CIMValue::set(Boolean x) {

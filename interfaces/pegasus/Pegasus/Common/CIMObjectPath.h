@@ -78,6 +78,7 @@ class PEGASUS_COMMON_LINKAGE CIMObjectPath : public RepHandle<CIMObjectPathRep> 
   Uint32 makeHashCode() const;
 
  private:
+  explicit CIMObjectPath(CIMObjectPathRep* owned) noexcept : RepHandle<CIMObjectPathRep>(owned) {}
   CIMObjectPathRep& changeable();
 };
 

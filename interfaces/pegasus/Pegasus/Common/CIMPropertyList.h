@@ -34,6 +34,10 @@ class PEGASUS_COMMON_LINKAGE CIMPropertyList : public RepHandle<CIMPropertyListR
   Boolean useThisProperty(const CIMName& name) const;
   // "NULL", "EMPTY", or the names separated by commas.
   String toString() const;
+
+ private:
+  explicit CIMPropertyList(CIMPropertyListRep* owned) noexcept
+      : RepHandle<CIMPropertyListRep>(owned) {}
 };
 
 }  // namespace vexor_compat

@@ -158,6 +158,9 @@ class PEGASUS_COMMON_LINKAGE CIMValue : public RepHandle<CIMValueRep> {
   // Numbers in decimal, booleans TRUE and FALSE, texts as they are, references as paths; array
   // elements separated by a space; null is empty.
   String toString() const;
+
+ private:
+  explicit CIMValue(CIMValueRep* owned) noexcept : RepHandle<CIMValueRep>(owned) {}
 };
 
 PEGASUS_COMMON_LINKAGE Boolean operator==(const CIMValue& x, const CIMValue& y);
