@@ -307,13 +307,12 @@ std::vector<Block> live_and_not_told(uint32_t Block::*group, uint32_t value) {
       [](Block& block) { block.told = true; });
 }
 
-// Failures recorded for the test that is running.
+}  // namespace
+
 int failures_so_far() {
   const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
   return test == nullptr ? 0 : test->result()->total_part_count();
 }
-
-}  // namespace
 
 HeapLedger::Pause::Pause() {
   ++pauses;

@@ -126,6 +126,9 @@ size_t for_every_failing_allocation(Test test, Heap which = Heap::any) {
   }
 }
 
+// Failures recorded so far for the test that is running.
+int failures_so_far();
+
 // Blocks that doubles hand to the library: exactly these bytes from the C heap, never made to fail,
 // not counted. `owner` groups them (a script uses its own number); `label` names the call.
 void* give_out(std::span<const uint8_t> bytes, const std::string& label, uint32_t owner);

@@ -5,7 +5,6 @@
 #include <set>
 #include <stdexcept>
 #include <string>
-#include <string>
 
 namespace test_support {
 namespace {
