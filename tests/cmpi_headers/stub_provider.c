@@ -338,4 +338,3 @@ CMAssociationMIStub(Stub, CStub, broker, CMNoHook)
 CMMethodMIStub(Stub, CStub, broker, CMNoHook)
 CMPropertyMIStub(Stub, CStub, broker, CMNoHook)
 CMIndicationMIStub(Stub, CStub, broker, CMNoHook)
-/* clang-format on */

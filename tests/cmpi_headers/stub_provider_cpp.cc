@@ -170,4 +170,3 @@ CMAssociationMIStub(Stub, CppStub, broker, CMNoHook)
 CMMethodMIStub(Stub, CppStub, broker, CMNoHook)
 CMPropertyMIStub(Stub, CppStub, broker, CMNoHook)
 CMIndicationMIStub(Stub, CppStub, broker, CMNoHook)
-    // clang-format on
