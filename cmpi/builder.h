@@ -90,11 +90,11 @@ class CmpiBuilder final : public model::Builder {
 };
 
 // What the exported functions return.
-inline CMPIObjectPath* as_path(model::Ref ref) {
+inline CMPIObjectPath* to_cmpi(model::Ref ref) {
   return const_cast<CMPIObjectPath*>(static_cast<const CMPIObjectPath*>(ref.object));
 }
 
-inline CMPIInstance* as_instance(model::Object object) {
+inline CMPIInstance* to_cmpi(model::Object object) {
   return const_cast<CMPIInstance*>(static_cast<const CMPIInstance*>(object.object));
 }
 

@@ -8,28 +8,27 @@ using namespace cim_utils;
 CMPIInstance* fabric_build_instance(const char* className, const char* nameSpace,
                                     const char** propertyList, const CMPIBroker* broker) {
   CmpiBuilder builder(broker);
-  return as_instance(model::fabric_instance(builder, className, nameSpace, propertyList));
+  return to_cmpi(model::fabric_instance(builder, className, nameSpace, propertyList));
 }
 
 CMPIObjectPath* fabric_fill_reference(const char* className, const char* nameSpace,
                                       const CMPIBroker* broker) {
   CmpiBuilder builder(broker);
-  return as_path(model::fabric_reference(builder, className, nameSpace));
+  return to_cmpi(model::fabric_reference(builder, className, nameSpace));
 }
 
 CMPIInstance* vsan_build_instance(const char* className, const char* nameSpace,
                                   const vsanNewEntry_t* vsan, const mts_dm_sw_conf_* swConf,
                                   const char** propertyList, const CMPIBroker* broker) {
   CmpiBuilder builder(broker);
-  return as_instance(
-      model::vsan_instance(builder, className, nameSpace, vsan, swConf, propertyList));
+  return to_cmpi(model::vsan_instance(builder, className, nameSpace, vsan, swConf, propertyList));
 }
 
 CMPIObjectPath* vsan_fill_reference(const char* className, const char* nameSpace,
                                     const vsanNewEntry_t* vsan, const mts_dm_sw_conf_* swConf,
                                     const CMPIBroker* broker) {
   CmpiBuilder builder(broker);
-  return as_path(model::vsan_reference(builder, className, nameSpace, vsan, swConf));
+  return to_cmpi(model::vsan_reference(builder, className, nameSpace, vsan, swConf));
 }
 
 CMPIInstance* contained_domain_build_instance(const char* className, const char* nameSpace,
@@ -37,7 +36,7 @@ CMPIInstance* contained_domain_build_instance(const char* className, const char*
                                               const mts_dm_sw_conf_* swConf,
                                               const CMPIBroker* broker) {
   CmpiBuilder builder(broker);
-  return as_instance(model::contained_domain_instance(builder, className, nameSpace, vsan, swConf));
+  return to_cmpi(model::contained_domain_instance(builder, className, nameSpace, vsan, swConf));
 }
 
 CMPIObjectPath* contained_domain_fill_reference(const char* className, const char* nameSpace,
@@ -45,5 +44,5 @@ CMPIObjectPath* contained_domain_fill_reference(const char* className, const cha
                                                 const mts_dm_sw_conf_* swConf,
                                                 const CMPIBroker* broker) {
   CmpiBuilder builder(broker);
-  return as_path(model::contained_domain_reference(builder, className, nameSpace, vsan, swConf));
+  return to_cmpi(model::contained_domain_reference(builder, className, nameSpace, vsan, swConf));
 }

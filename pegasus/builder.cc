@@ -119,11 +119,11 @@ void PegasusBuilder::InstanceWriter::path(model::Ref path) {
   if (path.object != nullptr) instance->setPath(*static_cast<const CIMObjectPath*>(path.object));
 }
 
-CIMObjectPath as_path(model::Ref ref) {
+CIMObjectPath to_pegasus(model::Ref ref) {
   return ref.object != nullptr ? *static_cast<const CIMObjectPath*>(ref.object) : CIMObjectPath();
 }
 
-CIMInstance as_instance(model::Object object) {
+CIMInstance to_pegasus(model::Object object) {
   return object.object != nullptr ? *static_cast<const CIMInstance*>(object.object) : CIMInstance();
 }
 

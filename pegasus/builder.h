@@ -79,7 +79,7 @@ class PegasusBuilder final : public model::Builder {
 };
 
 // What the exported functions return; an uninitialised value where nothing was built.
-Pegasus::CIMObjectPath as_path(model::Ref ref);
-Pegasus::CIMInstance as_instance(model::Object object);
+Pegasus::CIMObjectPath to_pegasus(model::Ref ref);
+Pegasus::CIMInstance to_pegasus(model::Object object);
 
 }  // namespace cim_utils

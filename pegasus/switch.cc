@@ -11,12 +11,12 @@ using Pegasus::String;
 
 CIMObjectPath ProviderUtil::fabric_fill_reference(const char* className, const String& nameSpace) {
   PegasusBuilder builder;
-  return as_path(model::fabric_reference(builder, className, nameSpace.getCString()));
+  return to_pegasus(model::fabric_reference(builder, className, nameSpace.getCString()));
 }
 
 CIMInstance ProviderUtil::fabric_build_instance(const char* className, const String& nameSpace) {
   PegasusBuilder builder;
-  return as_instance(model::fabric_instance(builder, className, nameSpace.getCString(), nullptr));
+  return to_pegasus(model::fabric_instance(builder, className, nameSpace.getCString(), nullptr));
 }
 
 CIMObject ProviderUtil::fabric_build_object(const char* className, const String& nameSpace) {
@@ -26,13 +26,14 @@ CIMObject ProviderUtil::fabric_build_object(const char* className, const String&
 CIMObjectPath ProviderUtil::vsan_fill_reference(const char* className, const String& nameSpace,
                                                 vsanNewEntry_t* vsan, mts_dm_sw_conf_* swConf) {
   PegasusBuilder builder;
-  return as_path(model::vsan_reference(builder, className, nameSpace.getCString(), vsan, swConf));
+  return to_pegasus(
+      model::vsan_reference(builder, className, nameSpace.getCString(), vsan, swConf));
 }
 
 CIMInstance ProviderUtil::vsan_build_instance(const char* className, const String& nameSpace,
                                               vsanNewEntry_t* vsan, mts_dm_sw_conf_* swConf) {
   PegasusBuilder builder;
-  return as_instance(
+  return to_pegasus(
       model::vsan_instance(builder, className, nameSpace.getCString(), vsan, swConf, nullptr));
 }
 
@@ -46,8 +47,8 @@ CIMObjectPath ProviderUtil::contained_domain_fill_reference(const String& classN
                                                             vsanNewEntry_t* vsan,
                                                             mts_dm_sw_conf_* swConf) {
   PegasusBuilder builder;
-  return as_path(model::contained_domain_reference(builder, className.getCString(),
-                                                   nameSpace.getCString(), vsan, swConf));
+  return to_pegasus(model::contained_domain_reference(builder, className.getCString(),
+                                                      nameSpace.getCString(), vsan, swConf));
 }
 
 CIMInstance ProviderUtil::contained_domain_build_instance(const String& className,
@@ -55,8 +56,8 @@ CIMInstance ProviderUtil::contained_domain_build_instance(const String& classNam
                                                           vsanNewEntry_t* vsan,
                                                           mts_dm_sw_conf_* swConf) {
   PegasusBuilder builder;
-  return as_instance(model::contained_domain_instance(builder, className.getCString(),
-                                                      nameSpace.getCString(), vsan, swConf));
+  return to_pegasus(model::contained_domain_instance(builder, className.getCString(),
+                                                     nameSpace.getCString(), vsan, swConf));
 }
 
 CIMObject ProviderUtil::contained_domain_build_object(const String& className,
