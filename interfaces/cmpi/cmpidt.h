@@ -12,8 +12,8 @@
  *   be null when the caller does not ask; a function that yields nothing else returns CMPIStatus.
  *   On failure pointers are null, and the state of CMPIData has a bit other than CMPI_keyValue.
  * - Null slots. A broker may leave out operations: the slot is a null pointer. Each slot that
- * brokers are known to leave out is marked "May be null" in cmpift.h and is tested before it is
- * called.
+ *   brokers are known to leave out is marked "May be null" in cmpift.h and is tested before it is
+ *   called.
  * - Versions. Nothing here depends on CMPI_VERSION or on a version number seen at run time: brokers
  *   report numbers that say little about their tables. The tables end where level 2.0 ends.
  * - Values. The first member of the union CMPIValue is uint64, but interfaces differ in this, so a

@@ -18,6 +18,7 @@
 
 #include <errno.h>
 #include <stddef.h>
+#include <string.h>
 
 #include "cmpidt.h"
 #include "cmpift.h"
@@ -92,8 +93,10 @@ static inline CMPIData cmpi_no_data(CMPIStatus* rc) {
 
 /* Whether there is no object: a null pointer or a null handle. object: any CMPI object. */
 static inline CMPIBoolean CMIsNullObject(const void* object) {
+  void* handle = CMPI_NULL;
   /* Every object starts with its handle. */
-  return !object || !*(void* const*)object;
+  if (object) memcpy(&handle, object, sizeof(handle));
+  return !handle;
 }
 
 static inline CMPIBoolean CMIsNullValue(CMPIData data) {
@@ -956,7 +959,7 @@ static inline void CMFreeSelectExp(const CMPIBroker* mb, CMPISelectExp* se) {
     };                                                                                          \
     static CMPIInstanceMI mi = {CMPI_NULL, &table};                                             \
     (void)ctx;                                                                                  \
-    broker = brkr;                                                                              \
+    (broker) = brkr;                                                                            \
     CMSetStatus(rc, CMPI_RC_OK);                                                                \
     hook;                                                                                       \
     return &mi;                                                                                 \
@@ -973,7 +976,7 @@ static inline void CMFreeSelectExp(const CMPIBroker* mb, CMPISelectExp* se) {
     };                                                                                         \
     static CMPIAssociationMI mi = {CMPI_NULL, &table};                                         \
     (void)ctx;                                                                                 \
-    broker = brkr;                                                                             \
+    (broker) = brkr;                                                                           \
     CMSetStatus(rc, CMPI_RC_OK);                                                               \
     hook;                                                                                      \
     return &mi;                                                                                \
@@ -989,7 +992,7 @@ static inline void CMFreeSelectExp(const CMPIBroker* mb, CMPISelectExp* se) {
     };                                                                                             \
     static CMPIMethodMI mi = {CMPI_NULL, &table};                                                  \
     (void)ctx;                                                                                     \
-    broker = brkr;                                                                                 \
+    (broker) = brkr;                                                                               \
     CMSetStatus(rc, CMPI_RC_OK);                                                                   \
     hook;                                                                                          \
     return &mi;                                                                                    \
@@ -1006,7 +1009,7 @@ static inline void CMFreeSelectExp(const CMPIBroker* mb, CMPISelectExp* se) {
     };                                                                                          \
     static CMPIPropertyMI mi = {CMPI_NULL, &table};                                             \
     (void)ctx;                                                                                  \
-    broker = brkr;                                                                              \
+    (broker) = brkr;                                                                            \
     CMSetStatus(rc, CMPI_RC_OK);                                                                \
     hook;                                                                                       \
     return &mi;                                                                                 \
@@ -1026,7 +1029,7 @@ static inline void CMFreeSelectExp(const CMPIBroker* mb, CMPISelectExp* se) {
     };                                                                                       \
     static CMPIIndicationMI mi = {CMPI_NULL, &table};                                        \
     (void)ctx;                                                                               \
-    broker = brkr;                                                                           \
+    (broker) = brkr;                                                                         \
     CMSetStatus(rc, CMPI_RC_OK);                                                             \
     hook;                                                                                    \
     return &mi;                                                                              \

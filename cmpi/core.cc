@@ -1,0 +1,148 @@
+#include <cim_utils/cmpi_builders.h>
+#include <cim_utils/session.h>
+
+#include <cstring>
+
+#include "cmpi/builder.h"
+
+using namespace cim_utils;
+
+CMPIObjectPath* makePath(const CMPIBroker* broker, const char* nameSpace, const char* className,
+                         CMPIStatus* rc) {
+  CMPIObjectPath* path = broker->eft->newObjectPath(broker, nameSpace, className, rc);
+  if (usable(path)) path->ft->setHostname(path, getCSName());
+  return path;
+}
+
+CMPIObjectPath* association_class_fill_reference_path(const char* className, const char* nameSpace,
+                                                      const CMPIObjectPath* firstRef,
+                                                      const CMPIObjectPath* secondRef,
+                                                      const char* firstRole, const char* secondRole,
+                                                      const CMPIBroker* broker) {
+  CMPIObjectPath* path = makePath(broker, nameSpace, className, nullptr);
+  if (!usable(path)) return path;
+  add_reference_key(path, firstRole, firstRef);
+  add_reference_key(path, secondRole, secondRef);
+  return path;
+}
+
+CMPIInstance* association_class_build_instance_path(const char* className, const char* nameSpace,
+                                                    const CMPIObjectPath* firstRef,
+                                                    const CMPIObjectPath* secondRef,
+                                                    const char* firstRole, const char* secondRole,
+                                                    const CMPIBroker* broker) {
+  CMPIInstance* instance = new_instance(broker, nameSpace, className);
+  if (instance == nullptr) return nullptr;
+  set_reference(instance, firstRole, firstRef);
+  set_reference(instance, secondRole, secondRef);
+  return instance;
+}
+
+CMPIInstance* esd_build_instance(const char* className, const char* nameSpace,
+                                 const CMPIObjectPath* managedElementRef,
+                                 const CMPIObjectPath* settingDataRef, const char** /*ignored*/,
+                                 const CMPIBroker* broker) {
+  return association_class_build_instance_path(className, nameSpace, managedElementRef,
+                                               settingDataRef, "ManagedElement", "SettingData",
+                                               broker);
+}
+
+CMPIObjectPath* esd_fill_reference(const char* className, const char* nameSpace,
+                                   const CMPIObjectPath* managedElementRef,
+                                   const CMPIObjectPath* settingDataRef, const CMPIBroker* broker) {
+  return association_class_fill_reference_path(className, nameSpace, managedElementRef,
+                                               settingDataRef, "ManagedElement", "SettingData",
+                                               broker);
+}
+
+CMPIInstance* sap_afe_build_instance(const char* className, const char* nameSpace,
+                                     const CMPIObjectPath* managedElementRef,
+                                     const CMPIObjectPath* availableSapRef,
+                                     const CMPIBroker* broker) {
+  return association_class_build_instance_path(className, nameSpace, managedElementRef,
+                                               availableSapRef, "ManagedElement", "AvailableSAP",
+                                               broker);
+}
+
+CMPIObjectPath* sap_afe_fill_reference(const char* className, const char* nameSpace,
+                                       const CMPIObjectPath* managedElementRef,
+                                       const CMPIObjectPath* availableSapRef,
+                                       const CMPIBroker* broker) {
+  return association_class_fill_reference_path(className, nameSpace, managedElementRef,
+                                               availableSapRef, "ManagedElement", "AvailableSAP",
+                                               broker);
+}
+
+CMPIInstance* ele_cap_build_instance(const char* className, const char* nameSpace,
+                                     const CMPIObjectPath* managedElementRef,
+                                     const CMPIObjectPath* capabilitiesRef,
+                                     const CMPIBroker* broker) {
+  return association_class_build_instance_path(className, nameSpace, managedElementRef,
+                                               capabilitiesRef, "ManagedElement", "Capabilities",
+                                               broker);
+}
+
+CMPIObjectPath* ele_cap_fill_reference(const char* className, const char* nameSpace,
+                                       const CMPIObjectPath* managedElementRef,
+                                       const CMPIObjectPath* capabilitiesRef,
+                                       const CMPIBroker* broker) {
+  return association_class_fill_reference_path(className, nameSpace, managedElementRef,
+                                               capabilitiesRef, "ManagedElement", "Capabilities",
+                                               broker);
+}
+
+namespace {
+
+const char* operational_status_text(int code) {
+  switch (code) {
+    case 2:
+      return "OK";
+    case 3:
+      return "DISABLED";
+    case 4:
+      return "OKDIAGFAILED";
+    case 5:
+      return "BOOT";
+    case 6:
+      return "SELFTEST";
+    case 7:
+      return "FAILED";
+    case 8:
+      return "MISSING";
+    case 9:
+      return "MISMATCHWITHPAREN";  // 17 characters and no final T, deliberately
+    case 10:
+      return "MISMATCHCONFI";  // no final G, deliberately
+    case 11:
+      return "DIAGFAILED";
+    case 12:
+      return "DORMANT";
+    case 13:
+    case 14:
+      return "OUTOFSERVICE";
+    case 15:
+      return "POWEREDDOWN";
+    case 16:
+      return "POWEREDUP";
+    case 17:
+      return "POWERDENIED";
+    case 18:
+      return "POWERCYCLED";
+    case 19:
+      return "POWEROVERWARN";
+    case 20:
+      return "POWEROVERCRITICAL";
+    case 21:
+      return "SYNCINPROG";
+    default:
+      return "Unknown";
+  }
+}
+
+}  // namespace
+
+void set_operational_status(int code, char* buffer) {
+  if (buffer == nullptr) return;
+  const char* text = operational_status_text(code);
+  std::memcpy(buffer, text, std::strlen(text));  // never the terminator, deliberately
+}

@@ -1,0 +1,93 @@
+// The Pegasus face: class ProviderUtil, for providers written on the OpenPegasus provider
+// interface.
+//
+// Conventions:
+// - All members are static; the class has no data of its own.
+// - X_fill_reference gives an object path with host, namespace, class name and keys;
+//   X_build_instance an instance with its path and the qualifiers of its class; X_build_object the
+//   same instance as a CIMObject.
+// - The host of every path is Pegasus::System::getHostName(), unlike the CMPI face's, deliberately.
+// - Services are asked on the queue mts_q of this class. A service that does not answer leaves out
+//   what depends on it, or gives the fallback text that the class defines.
+// - Null records make an uninitialised object. Records are the caller's, in host order.
+// - Traces go to standard output.
+#pragma once
+
+#include <Pegasus/Common/Array.h>
+#include <Pegasus/Common/CIMInstance.h>
+#include <Pegasus/Common/CIMObject.h>
+#include <Pegasus/Common/CIMObjectPath.h>
+#include <Pegasus/Common/CIMProperty.h>
+#include <Pegasus/Common/String.h>
+#include <Pegasus/Provider/CIMOMHandle.h>
+#include <cim_utils/export.h>
+#include <switch_platform/records_domain_manager.h>
+#include <switch_platform/records_vsan.h>
+
+class CIM_UTILS_EXPORT ProviderUtil {
+ public:
+  ProviderUtil();
+  ~ProviderUtil();
+
+  // The handle through which addQualifiers fetches class definitions. The hosting provider assigns
+  // it before it builds instances.
+  static Pegasus::CIMOMHandle _cimom;
+
+  // This face's queue handle, -1 while unbound. Written by init_mts only.
+  static int mts_q;
+
+  // As init_mts, deinit_mts and gdb_check of the CMPI face, on this face's own handle.
+  static int init_mts(int* q_out);
+  static int deinit_mts(int* q);
+  static int gdb_check();
+
+  // Copies the qualifiers of the instance's class, as defined in nameSpace, to the instance, and
+  // those of each property of the class to the instance's property. A property that the class does
+  // not have is dropped, after a line that names it. Does not throw for a class that cannot be had:
+  // one line says so and the instance stays as it was.
+  static void addQualifiers(Pegasus::CIMInstance& instance, Pegasus::String nameSpace);
+
+  // An array whose only element is `value`.
+  static Pegasus::Array<Pegasus::Uint16> convert_uint_to_array(Pegasus::Uint16 value);
+
+  // The fabric, named by the domain manager's WWN of VSAN 1 or, without that, "PHYSICAL_FABRIC".
+  static Pegasus::CIMObjectPath fabric_fill_reference(const char* className,
+                                                      const Pegasus::String& nameSpace);
+  static Pegasus::CIMInstance fabric_build_instance(const char* className,
+                                                    const Pegasus::String& nameSpace);
+  static Pegasus::CIMObject fabric_build_object(const char* className,
+                                                const Pegasus::String& nameSpace);
+
+  // A VSAN from its entry and the domain manager's record of it.
+  static Pegasus::CIMObjectPath vsan_fill_reference(const char* className,
+                                                    const Pegasus::String& nameSpace,
+                                                    vsanNewEntry_t* vsan, mts_dm_sw_conf_* swConf);
+  static Pegasus::CIMInstance vsan_build_instance(const char* className,
+                                                  const Pegasus::String& nameSpace,
+                                                  vsanNewEntry_t* vsan, mts_dm_sw_conf_* swConf);
+  static Pegasus::CIMObject vsan_build_object(const char* className,
+                                              const Pegasus::String& nameSpace,
+                                              vsanNewEntry_t* vsan, mts_dm_sw_conf_* swConf);
+
+  // A VSAN in the fabric.
+  static Pegasus::CIMObjectPath contained_domain_fill_reference(const Pegasus::String& className,
+                                                                const Pegasus::String& nameSpace,
+                                                                vsanNewEntry_t* vsan,
+                                                                mts_dm_sw_conf_* swConf);
+  static Pegasus::CIMInstance contained_domain_build_instance(const Pegasus::String& className,
+                                                              const Pegasus::String& nameSpace,
+                                                              vsanNewEntry_t* vsan,
+                                                              mts_dm_sw_conf_* swConf);
+  static Pegasus::CIMObject contained_domain_build_object(const Pegasus::String& className,
+                                                          const Pegasus::String& nameSpace,
+                                                          vsanNewEntry_t* vsan,
+                                                          mts_dm_sw_conf_* swConf);
+};
+
+// Assigns to `property` a new one with the given name and an array whose only element is `value`,
+// narrowed to 16 bits.
+CIM_UTILS_EXPORT void getUIntArrayProperty(Pegasus::CIMProperty& property, char* name, int value);
+
+// The same with a text.
+CIM_UTILS_EXPORT void getStringArrayProperty(Pegasus::CIMProperty& property, char* name,
+                                             char* value);

@@ -1,0 +1,130 @@
+#include "pegasus/builder.h"
+
+#include <Pegasus/Common/CIMName.h>
+#include <Pegasus/Common/System.h>
+#include <cim_utils/provider_util.h>
+
+#include <cassert>
+
+namespace cim_utils {
+
+using Pegasus::Array;
+using Pegasus::CIMInstance;
+using Pegasus::CIMKeyBinding;
+using Pegasus::CIMName;
+using Pegasus::CIMNamespaceName;
+using Pegasus::CIMObjectPath;
+using Pegasus::CIMProperty;
+using Pegasus::CIMValue;
+using Pegasus::String;
+
+int32_t PegasusBuilder::queue() const {
+  return ProviderUtil::mts_q;
+}
+
+model::Opened PegasusBuilder::open_path(const char* cls, const char* ns, model::BadPath) {
+  path_.cls = cls;
+  path_.ns = ns;
+  path_.keys.clear();
+  return {&path_, {}};
+}
+
+model::ObjectWriter* PegasusBuilder::open_instance(const char* cls, const char*) {
+  instance_.instance.emplace(CIMName(cls));
+  return &instance_;
+}
+
+model::ObjectWriter* PegasusBuilder::open_instance(const char* cls, const char* ns,
+                                                   const model::KeyNames&, model::Filter,
+                                                   const char**) {
+  return open_instance(cls, ns);
+}
+
+model::Ref PegasusBuilder::close_path(model::ObjectWriter*) {
+  assert(closed_count_ < closed_.size());
+  auto& path = closed_[closed_count_++];
+  path.emplace(Pegasus::System::getHostName(), CIMNamespaceName(path_.ns), CIMName(path_.cls),
+               path_.keys);
+  return {&*path};
+}
+
+model::Object PegasusBuilder::close_instance(model::ObjectWriter*) {
+  // The class definitions live in one namespace, whatever namespace the instance is for.
+  ProviderUtil::addQualifiers(*instance_.instance, "root/cimv2");
+  return {&*instance_.instance};
+}
+
+void PegasusBuilder::Writer::text(const char* name, const char* value) {
+  if (value != nullptr) set(name, CIMValue(String(value)));
+}
+
+void PegasusBuilder::Writer::boolean(const char* name, bool value) {
+  set(name, CIMValue(Pegasus::Boolean(value)));
+}
+
+void PegasusBuilder::Writer::uint8(const char* name, uint8_t value) {
+  set(name, CIMValue(Pegasus::Uint8(value)));
+}
+
+void PegasusBuilder::Writer::uint16(const char* name, uint16_t value) {
+  set(name, CIMValue(Pegasus::Uint16(value)));
+}
+
+void PegasusBuilder::Writer::uint32(const char* name, uint32_t value) {
+  set(name, CIMValue(Pegasus::Uint32(value)));
+}
+
+void PegasusBuilder::Writer::uint64(const char* name, uint64_t value) {
+  set(name, CIMValue(Pegasus::Uint64(value)));
+}
+
+void PegasusBuilder::Writer::sint32(const char* name, int32_t value) {
+  set(name, CIMValue(Pegasus::Sint32(value)));
+}
+
+void PegasusBuilder::Writer::uint16s(const char* name, std::span<const uint16_t> values) {
+  Array<Pegasus::Uint16> array;
+  for (const uint16_t value : values)
+    array.append(value);
+  set(name, CIMValue(array));
+}
+
+void PegasusBuilder::Writer::uint64s(const char* name, std::span<const uint64_t> values) {
+  Array<Pegasus::Uint64> array;
+  for (const uint64_t value : values)
+    array.append(value);
+  set(name, CIMValue(array));
+}
+
+void PegasusBuilder::Writer::texts(const char* name, std::span<const char* const> values) {
+  Array<String> array;
+  for (const char* value : values)
+    array.append(String(value));
+  set(name, CIMValue(array));
+}
+
+void PegasusBuilder::Writer::reference(const char* role, model::Ref end) {
+  if (end.object != nullptr) set(role, CIMValue(*static_cast<const CIMObjectPath*>(end.object)));
+}
+
+void PegasusBuilder::PathWriter::set(const char* name, const CIMValue& value) {
+  keys.append(CIMKeyBinding(CIMName(name), value));
+}
+
+void PegasusBuilder::InstanceWriter::set(const char* name, const CIMValue& value) {
+  instance->addProperty(CIMProperty(CIMName(name), value));
+}
+
+void PegasusBuilder::InstanceWriter::path(model::Ref path) {
+  if (path.object != nullptr) instance->setPath(*static_cast<const CIMObjectPath*>(path.object));
+}
+
+CIMObjectPath to_pegasus(model::Ref ref) {
+  return ref.object != nullptr ? *static_cast<const CIMObjectPath*>(ref.object) : CIMObjectPath();
+}
+
+CIMInstance to_pegasus(model::Object object) {
+  return object.object != nullptr ? *static_cast<const CIMInstance*>(object.object) : CIMInstance();
+}
+
+}  // namespace cim_utils

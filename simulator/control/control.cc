@@ -1,0 +1,95 @@
+#include "simulator/control/control.h"
+
+#include "simulator/client/platform.h"
+#include "simulator/local/fabric_distribution_response.h"
+
+namespace switch_sim::control {
+namespace {
+
+template <typename Work>
+auto locked(Work work) {
+  Platform& platform = Platform::instance();
+  const auto lock = platform.lock();
+  return work(platform);
+}
+
+}  // namespace
+
+Fabric fabric() {
+  return locked([](Platform& platform) { return platform.fabric(); });
+}
+
+Fabric default_fabric() {
+  return switch_sim::default_fabric();
+}
+
+std::optional<std::string> install(Fabric fabric) {
+  sort(fabric);
+  if (auto problem = problem_of(fabric)) return problem;
+  locked([&](Platform& platform) { platform.install(std::move(fabric)); });
+  return std::nullopt;
+}
+
+void reset() {
+  locked([](Platform& platform) {
+    platform.install(switch_sim::default_fabric());
+    platform.log().keep(false);
+    platform.log().clear();
+    platform.faults().set({});
+    platform.replay(nullptr);
+    platform.reset_counts();
+    platform.clock().reset();
+  });
+}
+
+std::string startup_problem() {
+  return locked([](Platform& platform) { return platform.startup_problem(); });
+}
+
+uint64_t exchange_count() {
+  return locked([](Platform& platform) { return platform.log().count(); });
+}
+
+void keep_log(bool on) {
+  locked([&](Platform& platform) { platform.log().keep(on); });
+}
+
+std::vector<Exchange> log() {
+  return locked([](Platform& platform) { return platform.log().kept(); });
+}
+
+void clear_log() {
+  locked([](Platform& platform) { platform.log().clear(); });
+}
+
+void set_faults(std::vector<Fault> faults) {
+  locked([&](Platform& platform) { platform.faults().set(std::move(faults)); });
+}
+
+std::optional<std::string> replay(const std::string& recording) {
+  auto read = read_recording(recording);
+  if (const auto* error = std::get_if<RecordingError>(&read)) {
+    return "line " + std::to_string(error->line) + ": " + error->message;
+  }
+  auto exchanges = std::make_unique<Recording>(std::get<std::vector<Exchange>>(std::move(read)));
+  locked([&](Platform& platform) { platform.replay(std::move(exchanges)); });
+  return std::nullopt;
+}
+
+VirtualTime now() {
+  return locked([](Platform& platform) { return platform.clock().now(); });
+}
+
+void advance(VirtualTime by) {
+  locked([&](Platform& platform) { platform.clock().advance_to(platform.clock().now() + by); });
+}
+
+Outstanding outstanding() {
+  return locked([](Platform& platform) {
+    const HandedOut handed_out = platform.handed_out();
+    return Outstanding{handed_out.replies, handed_out.reply_bytes, handed_out.messages,
+                       distribution::iterators_outstanding(), handed_out.queues};
+  });
+}
+
+}  // namespace switch_sim::control

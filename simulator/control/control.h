@@ -1,0 +1,62 @@
+// Controls the simulated platform of this process: for programs that show it and for tests.
+//
+// All functions may be called from any thread.
+#ifndef SIMULATOR_CONTROL_CONTROL_H
+#define SIMULATOR_CONTROL_CONTROL_H
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "simulator/fabric/fabric.h"
+#include "simulator/transport/faults.h"
+#include "simulator/transport/request_log.h"
+
+namespace switch_sim::control {
+
+// The fabric that the services answer from.
+Fabric fabric();
+Fabric default_fabric();
+
+// Answers from another fabric from now on. A fabric that breaks the rules of the model is not
+// taken; the result then tells what is wrong with it.
+std::optional<std::string> install(Fabric fabric);
+
+// Back to the default fabric, an empty log, no faults, no replay, counts at zero, and a clock at
+// zero. Queues stay bound.
+void reset();
+
+// The environment could not be used (the text tells why), and every request is refused.
+std::string startup_problem();
+
+// Exchanges: counted since the last clear_log; kept in full only after keep_log(true).
+uint64_t exchange_count();
+void keep_log(bool on);
+std::vector<Exchange> log();
+void clear_log();
+
+// Faults from now on, in place of earlier ones.
+void set_faults(std::vector<Fault> faults);
+
+// Answers from a recording (the text of a trace file) instead of the services. The result tells
+// what is wrong with the text, with its line.
+std::optional<std::string> replay(const std::string& recording);
+
+VirtualTime now();
+void advance(VirtualTime by);
+
+// What the client functions gave out. Messages, iterators and queues are those not given back yet;
+// replies are all that were handed out, since callers release them with free().
+struct Outstanding {
+  uint64_t replies_handed_out = 0;
+  uint64_t reply_bytes_handed_out = 0;
+  int64_t messages = 0;
+  int64_t iterators = 0;
+  int64_t queues = 0;
+  friend bool operator==(const Outstanding&, const Outstanding&) = default;
+};
+Outstanding outstanding();
+
+}  // namespace switch_sim::control
+
+#endif  // SIMULATOR_CONTROL_CONTROL_H

@@ -1,0 +1,64 @@
+// The fabric that is there when nothing else is asked for.
+#include "simulator/fabric/fabric.h"
+
+namespace switch_sim {
+namespace {
+
+Switch make_switch(const char* name, uint8_t last_byte, uint8_t last_address_byte,
+                   const char* location) {
+  Switch made;
+  made.name = name;
+  made.wwn = {{0x20, 0x00, 0x00, 0x0D, 0xEC, 0x0A, 0x1B, last_byte}};
+  made.address.bytes = {192, 0, 2, last_address_byte};
+  made.system.contact = "storage-team@example.com";
+  made.system.location = location;
+  made.system.description = "Simulated Fibre Channel switch";
+  made.system.software_version = "3.1(2a)";
+  made.system.object_id = {1, 3, 6, 1, 4, 1, 8, 5};
+  made.system.uptime_hundredths = 8640000;  // one day
+  return made;
+}
+
+DomainManager make_domain(const Switch& owner, uint8_t domain_id, uint8_t priority) {
+  DomainManager made;
+  made.switch_wwn = owner.wwn;
+  made.domain_id = domain_id;
+  made.configured_domain_id = domain_id;
+  made.configured_priority = priority;
+  return made;
+}
+
+}  // namespace
+
+Fabric default_fabric() {
+  Fabric fabric;
+  fabric.switches = {
+      make_switch("switch-1", 0x2C, 11, "Row 1, rack 4"),
+      make_switch("switch-2", 0x5E, 12, "Row 1, rack 9"),
+      make_switch("switch-3", 0x90, 13, "Row 2, rack 4"),
+  };
+  fabric.local_switch = fabric.switches[0].wwn;
+
+  Vsan first;
+  first.number = 1;
+  first.name = "VSAN0001";
+  first.load_balancing = LoadBalancing::source_destination_exchange;
+  first.principal_switch = fabric.switches[0].wwn;
+  first.domains = {make_domain(fabric.switches[0], 97, 1), make_domain(fabric.switches[1], 98, 128),
+                   make_domain(fabric.switches[2], 99, 128)};
+
+  Vsan second;
+  second.number = 2;
+  second.name = "VSAN0002";
+  second.load_balancing = LoadBalancing::source_destination;
+  second.principal_switch = fabric.switches[1].wwn;
+  second.domains = {make_domain(fabric.switches[0], 21, 128),
+                    make_domain(fabric.switches[1], 22, 2),
+                    make_domain(fabric.switches[2], 23, 254)};
+  second.domains[2].configured_type = DomainType::static_id;
+
+  fabric.vsans = {first, second};
+  return fabric;
+}
+
+}  // namespace switch_sim

@@ -1,0 +1,52 @@
+// Which service answers which opcode.
+#include <algorithm>
+#include <array>
+
+#include "simulator/local/platform_status.h"
+#include "simulator/services/services.h"
+
+namespace switch_sim {
+namespace {
+
+using ServiceFunction = Outcome (*)(const Request&, Fabric&, VirtualTime);
+
+struct Row {
+  Service service;
+  uint32_t opcode;
+  ServiceFunction answer;
+};
+
+constexpr std::array kRows = {
+    Row{Service::vsan_manager, 149, services::vsan_entry},
+    Row{Service::vsan_manager, 125, services::count_vsans},
+    Row{Service::vsan_manager, 128, services::count_active_vsans},
+    Row{Service::domain_manager, 264, services::domain_configuration},
+    Row{Service::domain_manager, 267, services::domain_database},
+    Row{Service::domain_manager, kLocalDomainIds, services::local_domain_ids},
+    Row{Service::fabric_configuration, 1401, services::interconnect_elements},
+    Row{Service::fabric_configuration, 1402, services::fabric_configuration_data},
+    Row{Service::fabric_configuration, kSwitchAddresses, services::switch_addresses},
+    Row{Service::fabric_distribution, kDiscoverPeers, services::discover_peers},
+    Row{Service::switch_identity, 1282, services::switch_identity},
+    Row{Service::system_name, 878, services::set_system_name},
+    Row{Service::system_information, 1812, services::system_information},
+    Row{Service::system_information, kSoftwareVersion, services::software_version},
+};
+
+bool is_answered(Service service) {
+  return std::any_of(kRows.begin(), kRows.end(),
+                     [&](const Row& row) { return row.service == service; });
+}
+
+}  // namespace
+
+Outcome answer(const Request& request, Fabric& fabric, VirtualTime now) {
+  const auto row = std::find_if(kRows.begin(), kRows.end(), [&](const Row& candidate) {
+    return candidate.service == request.service && candidate.opcode == request.opcode;
+  });
+  if (row != kRows.end()) return row->answer(request, fabric, now);
+  return services::refuse(is_answered(request.service) ? status::kUnknownOpcode
+                                                       : status::kServiceNotAvailable);
+}
+
+}  // namespace switch_sim

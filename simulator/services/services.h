@@ -1,0 +1,55 @@
+// The services of the switch: each answers a request from the fabric, and a set changes it.
+#ifndef SIMULATOR_SERVICES_SERVICES_H
+#define SIMULATOR_SERVICES_SERVICES_H
+
+#include "simulator/fabric/fabric.h"
+#include "simulator/transport/message.h"
+
+namespace switch_sim {
+
+// The outcome of a request, found by service and opcode. A refused request leaves the fabric as it
+// was.
+Outcome answer(const Request& request, Fabric& fabric, VirtualTime now);
+
+namespace services {
+
+inline Outcome refuse(int32_t status) {
+  Outcome outcome;
+  outcome.status = status;
+  return outcome;
+}
+
+inline Outcome reply(Bytes bytes) {
+  Outcome outcome;
+  outcome.reply = std::move(bytes);
+  return outcome;
+}
+
+// vsan_manager.cc
+Outcome vsan_entry(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome count_vsans(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome count_active_vsans(const Request& request, Fabric& fabric, VirtualTime now);
+
+// domain_manager.cc
+Outcome domain_configuration(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome domain_database(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome local_domain_ids(const Request& request, Fabric& fabric, VirtualTime now);
+
+// fabric_configuration.cc
+Outcome interconnect_elements(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome fabric_configuration_data(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome switch_addresses(const Request& request, Fabric& fabric, VirtualTime now);
+
+// fabric_distribution.cc
+Outcome discover_peers(const Request& request, Fabric& fabric, VirtualTime now);
+
+// switch_identity.cc, system_name.cc, system_information.cc
+Outcome switch_identity(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome set_system_name(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome system_information(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome software_version(const Request& request, Fabric& fabric, VirtualTime now);
+
+}  // namespace services
+}  // namespace switch_sim
+
+#endif  // SIMULATOR_SERVICES_SERVICES_H
