@@ -95,6 +95,11 @@ class ObjectManager {
   MethodResult invoke_method(const ObjectPath& path, std::string_view method,
                              const std::vector<NamedData>& in);
 
+  /// \throws CimError CMPI_RC_ERR_INVALID_NAMESPACE
+  void check_name_space(std::string_view name_space) const;
+  /// \throws CimError CMPI_RC_ERR_INVALID_CLASS, with the class that was probably meant
+  const schema::Class& find_class(std::string_view name) const;
+
   /// The concrete classes at or below `cls` that a provider serves, in the repository's order.
   std::vector<const schema::Class*> served_classes(const schema::Class& cls) const;
   /// The provider of a class, or null.
@@ -103,8 +108,6 @@ class ObjectManager {
  private:
   struct Request;
 
-  void check_name_space(std::string_view name_space) const;
-  const schema::Class& find_class(std::string_view name) const;
   ObjectPath complete_path(const ObjectPath& path) const;
   Instance complete_instance(const Instance& instance) const;
   const schema::Class& find_concrete(const ObjectPath& path) const;
