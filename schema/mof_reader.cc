@@ -16,6 +16,7 @@ namespace cim::schema {
 namespace {
 
 constexpr std::size_t kMaxFiles = 1000;
+constexpr std::size_t kMaxListed = 256;  // qualifiers of one element, parameters of one method
 
 constexpr std::array<std::string_view, 14> kDataTypes = {
     "boolean", "char16", "uint8",  "sint8",  "uint16", "sint16", "uint32",
@@ -335,6 +336,9 @@ bool FileReader::read_qualifiers(std::vector<Qualifier>& qualifiers) {
   do {
     Qualifier qualifier;
     if (!read_qualifier(qualifier)) return false;
+    if (qualifiers.size() == kMaxListed) {
+      return fail_at(qualifier.position, "more than 256 qualifiers in one list");
+    }
     qualifiers.push_back(std::move(qualifier));
   } while (accept(','));
   return peek().is(']') ? accept(']')
@@ -487,6 +491,9 @@ bool FileReader::read_method_rest(Method& method) {
     do {
       Parameter parameter;
       if (!read_parameter(parameter, method.name)) return false;
+      if (method.parameters.size() == kMaxListed) {
+        return fail_at(parameter.position, "more than 256 parameters of method " + method.name);
+      }
       method.parameters.push_back(std::move(parameter));
     } while (accept(','));
   }

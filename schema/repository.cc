@@ -146,12 +146,12 @@ class Loader {
       stage(cls);
     for (const Class& cls : document.classes)
       order(cls);
-    for (Node* node : ordered_)
-      resolve(*node);
-    for (const Node* node : ordered_)
-      check_references(*node);
-    for (const InstanceDeclaration& instance : document.instances)
-      stage_instance(instance);
+    if (resolve_all()) {
+      for (const Node* node : ordered_)
+        check_references(*node);
+      for (const InstanceDeclaration& instance : document.instances)
+        stage_instance(instance);
+    }
     if (errors_.empty()) commit();
     sort_errors(document);
     return std::move(errors_);
@@ -388,18 +388,21 @@ class Loader {
     }
   }
 
-  /// merge(), with an error for each inherited qualifier that is changed but must not be.
+  /// merge(), with an error for each inherited qualifier that is changed but must not be; it keeps
+  /// its inherited value.
   std::vector<Qualifier> inherit_qualifiers(std::span<const Qualifier> inherited,
                                             std::span<const Qualifier> local) {
-    for (const Qualifier& qualifier : local) {
-      const Qualifier* above = schema::find_qualifier(inherited, qualifier.name);
+    std::vector<Qualifier> merged = merge(inherited, local);
+    for (std::size_t i = 0; i < std::min(inherited.size(), merged.size()); ++i) {
+      const Qualifier* above = schema::find_qualifier(inherited, merged[i].name);
       if (above == nullptr || !above->flavors.to_subclass || above->flavors.overridable) continue;
-      if (above->value == qualifier.value) continue;
-      error(qualifier.position, "qualifier " + qualifier.name + " cannot change from " +
-                                    to_mof(above->value) + " to " + to_mof(qualifier.value) +
+      if (above->value == merged[i].value) continue;
+      error(merged[i].position, "qualifier " + merged[i].name + " cannot change from " +
+                                    to_mof(above->value) + " to " + to_mof(merged[i].value) +
                                     ": it is inherited with DisableOverride");
+      merged[i].value = above->value;
     }
-    return merge(inherited, local);
+    return merged;
   }
 
   /// The feature of the superclass that a local one overrides, or null.
