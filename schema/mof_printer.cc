@@ -40,12 +40,17 @@ std::string qualifier_text(const Qualifier& qualifier, const Repository& reposit
 std::string qualifier_list(std::span<const Qualifier> qualifiers, const Repository& repository,
                            const std::string& indent) {
   if (qualifiers.empty()) return {};
+  const std::string line_break = ",\n " + indent;
   std::string one_line;
   std::string many_lines;
   for (const Qualifier& qualifier : qualifiers) {
+    if (!one_line.empty()) {
+      one_line += ", ";
+      many_lines += line_break;
+    }
     const std::string text = qualifier_text(qualifier, repository);
-    one_line += (one_line.empty() ? "" : ", ") + text;
-    many_lines += (many_lines.empty() ? "" : ",\n " + indent) + text;
+    one_line += text;
+    many_lines += text;
   }
   const bool fits = indent.size() + one_line.size() + 2 <= kLineWidth;
   return indent + "[" + (fits ? one_line : many_lines) + "]";

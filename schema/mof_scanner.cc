@@ -441,7 +441,7 @@ bool read_element(TokenStream& tokens, Scalar& element, Type& type) {
   return true;
 }
 
-Literal& fail(Literal& literal, const Token& token, std::string expected) {
+Literal& fail(Literal& literal, const Token& token, const std::string& expected) {
   literal.line = token.line;
   literal.column = token.column;
   literal.error = token.kind == TokenKind::bad

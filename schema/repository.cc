@@ -343,31 +343,38 @@ class Loader {
     check_keys(node);
   }
 
-  /// Gives each qualifier its declared type and its flavors.
   void resolve_qualifiers(std::vector<Qualifier>& qualifiers, Scope scope,
                           const std::string& owner) {
     NameSet seen;
     for (Qualifier& qualifier : qualifiers) {
-      const std::string what = "qualifier " + qualifier.name;
       if (!seen.insert(qualifier.name).second) {
-        error(qualifier.position, what + " stands twice on " + owner);
+        error(qualifier.position, twice(qualifier, owner));
       }
-      const QualifierDeclaration* declaration = find_declaration(qualifier.name);
-      if (declaration == nullptr) {
-        error(qualifier.position, "unknown qualifier " + quoted(qualifier.name) + " on " + owner +
-                                      suggest_qualifier(qualifier.name));
-        continue;
-      }
-      if (!declaration->allows(scope)) {
-        error(qualifier.position, what + " cannot stand on " + owner + ": its scope is " +
-                                      scope_names(declaration->scope));
-      }
-      give_value(qualifier, *declaration, owner);
-      qualifier.flavors = {
-          qualifier.written.overridable.value_or(declaration->flavors.overridable),
-          qualifier.written.to_subclass.value_or(declaration->flavors.to_subclass),
-          qualifier.written.translatable.value_or(declaration->flavors.translatable)};
+      resolve_qualifier(qualifier, scope, owner);
     }
+  }
+
+  static std::string twice(const Qualifier& qualifier, const std::string& owner) {
+    return "qualifier " + qualifier.name + " stands twice on " + owner;
+  }
+
+  /// Gives a qualifier its declared type and its flavors.
+  void resolve_qualifier(Qualifier& qualifier, Scope scope, const std::string& owner) {
+    const QualifierDeclaration* declaration = find_declaration(qualifier.name);
+    if (declaration == nullptr) {
+      return error(qualifier.position, "unknown qualifier " + quoted(qualifier.name) + " on " +
+                                           owner + suggest_qualifier(qualifier.name));
+    }
+    if (!declaration->allows(scope)) {
+      error(qualifier.position, "qualifier " + qualifier.name + " cannot stand on " + owner +
+                                    ": its scope is " + scope_names(declaration->scope));
+    }
+    give_value(qualifier, *declaration, owner);
+    const WrittenFlavors& written = qualifier.written;
+    const Flavors& declared = declaration->flavors;
+    qualifier.flavors = {written.overridable.value_or(declared.overridable),
+                         written.to_subclass.value_or(declared.to_subclass),
+                         written.translatable.value_or(declared.translatable)};
   }
 
   void give_value(Qualifier& qualifier, const QualifierDeclaration& declaration,

@@ -20,9 +20,9 @@ struct Fault {
   };
 
   // Which requests: those that fit every field that is set.
-  std::optional<Service> service;
-  std::optional<uint32_t> opcode;
-  std::optional<uint32_t> operation;
+  std::optional<Service> service = std::nullopt;
+  std::optional<uint32_t> opcode = std::nullopt;
+  std::optional<uint32_t> operation = std::nullopt;
   uint32_t nth = 0;  // counted from 1 among the requests that fit; 0: each of them
 
   Kind kind = Kind::status;

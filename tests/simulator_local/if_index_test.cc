@@ -149,6 +149,10 @@ struct Named {
   const char* name;
 };
 
+void PrintTo(const Named& named, std::ostream* out) {
+  *out << named.name;
+}
+
 class InterfaceName : public testing::TestWithParam<Named> {};
 
 TEST_P(InterfaceName, IsShown) {

@@ -1,0 +1,56 @@
+#include "providers/class_table.h"
+
+#include "providers/fabric.h"
+#include "providers/vsan.h"
+
+namespace vexor::providers {
+namespace {
+
+constexpr KeyNames kSystemKeys = {"Name", "CreationClassName"};
+
+constexpr RecordClass<Fabric> kAdminDomain{{
+    .name = "VEXOR_AdminDomain",
+    .keys = kSystemKeys,
+    .list = the_fabric,
+    .reference = [](const Target& to, const Fabric&) { return fabric_reference(to); },
+    .instance = [](const Target& to, const Fabric&) { return fabric_instance(to); },
+}};
+
+constexpr RecordClass<VsanRecord> kVsan{{
+    .name = "VEXOR_Vsan",
+    .keys = kSystemKeys,
+    .list = all_vsans,
+    .reference = vsan_reference,
+    .instance = vsan_instance,
+    .find = vsans_named,
+}};
+
+constexpr RecordClass<VsanRecord> kContainedDomain{{
+    .name = "VEXOR_ContainedDomain",
+    .keys = {"GroupComponent", "PartComponent"},
+    .list = all_vsans,
+    .reference = contained_domain_reference,
+    .instance = contained_domain_instance,
+    .find = contained_domains_named,
+    .ends = {{
+        {{.role = "GroupComponent", .class_name = "VEXOR_AdminDomain", .always_the_same = true},
+         [](const Target& to, const VsanRecord&) { return fabric_reference(to); },
+         [](const Target& to, const VsanRecord&) { return fabric_instance(to); }},
+        {{.role = "PartComponent", .class_name = "VEXOR_Vsan"}, vsan_reference, vsan_instance},
+    }},
+    .related = contained_domains_of,
+}};
+
+constexpr const Class* kClasses[] = {
+    &kAdminDomain,
+    &kContainedDomain,
+    &kVsan,
+};
+
+}  // namespace
+
+ClassTable class_table() {
+  return kClasses;
+}
+
+}  // namespace vexor::providers

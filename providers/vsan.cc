@@ -1,0 +1,118 @@
+#include "providers/vsan.h"
+
+#include <cim_utils/cmpi_switch.h>
+#include <cim_utils/domain_manager.h>
+#include <cim_utils/vsan.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+
+namespace vexor::providers {
+namespace {
+
+constexpr uint32_t kActive = 1;  // administrative state
+constexpr size_t kWwnDigits = 16;
+
+struct FreeBlock {
+  void operator()(void* block) const { std::free(block); }
+};
+
+// The domain manager's part; the entry is there already.
+void complete(int32_t q, VsanRecord& vsan) {
+  vsan.configuration = {};
+  vsan.has_configuration =
+      dm_cim_get_dmEntry(q, vsan.entry.vsan_index, 1, &vsan.configuration) == 0;
+}
+
+const mts_dm_sw_conf_* configuration(const VsanRecord& vsan) {
+  return vsan.has_configuration ? &vsan.configuration : nullptr;
+}
+
+// One VSAN by its number. Result: false when the VSAN manager knows none.
+bool read_vsan(int32_t q, uint32_t number, VsanRecord& vsan) {
+  if (vsan_cim_check_vsan_index(number) != 0) return false;
+  vsan.entry = {};
+  vsan.entry.vsan_index = number;
+  const int32_t status = vsan_cim_get_vsanEntry(q, 1, &vsan.entry);
+  // The service's own refusals are positive; a negative status says that nobody answered.
+  if (status < 0)
+    throw Failure(CMPI_RC_ERR_FAILED, "the VSAN manager does not answer (status %d)", status);
+  if (status != 0) return false;
+  complete(q, vsan);
+  return true;
+}
+
+bool has_wwn(const VsanRecord& vsan, const char* wwn) {
+  char text[kWwnDigits + 1] = {};
+  return vsan_cim_get_vsan_admindomain_key(text, configuration(vsan)) == 0 &&
+         std::strcmp(text, wwn) == 0;
+}
+
+}  // namespace
+
+std::vector<VsanRecord> all_vsans(int32_t q) {
+  int32_t count = 0;
+  vsanNewEntry_t* entries = nullptr;
+  if (vsan_cim_get_all_vsanEntry(q, &count, &entries) != 0)
+    throw Failure(CMPI_RC_ERR_FAILED, "the VSAN manager does not give its VSANs");
+  const std::unique_ptr<vsanNewEntry_t, FreeBlock> owner(entries);
+  std::vector<VsanRecord> vsans(count > 0 ? static_cast<size_t>(count) : 0);
+  for (size_t index = 0; index < vsans.size(); ++index) {
+    vsans[index].entry = entries[index];
+    complete(q, vsans[index]);
+  }
+  return vsans;
+}
+
+std::vector<VsanRecord> vsans_named(int32_t q, const ObjectName& name) {
+  const char* key = name.text("Name");
+  if (key == nullptr) return {};
+  uint32_t number = 0;
+  char wwn[kWwnDigits + 1] = {};
+  vsan_cim_get_vsan_key_fields(key, &number, wwn);
+
+  std::vector<VsanRecord> found(1);
+  if (!read_vsan(q, number, found[0])) found.clear();
+  const bool by_number = std::strchr(key, ':') != nullptr;
+  if (by_number || std::strlen(key) != kWwnDigits) return found;
+
+  if (!found.empty() && found[0].entry.admin_state == kActive && !found[0].has_configuration)
+    throw Failure(CMPI_RC_ERR_FAILED, "the domain manager does not tell the WWN of VSAN %u",
+                  number);
+  if (!found.empty() && has_wwn(found[0], key)) return found;
+  // The WWN of a VSAN without a domain manager need not hold the VSAN's number.
+  return all_vsans(q);
+}
+
+CMPIObjectPath* vsan_reference(const Target& target, const VsanRecord& vsan) {
+  return vsan_fill_reference(target.class_name, target.name_space, &vsan.entry, configuration(vsan),
+                             target.broker);
+}
+
+CMPIInstance* vsan_instance(const Target& target, const VsanRecord& vsan) {
+  return vsan_build_instance(target.class_name, target.name_space, &vsan.entry, configuration(vsan),
+                             target.properties, target.broker);
+}
+
+CMPIObjectPath* contained_domain_reference(const Target& target, const VsanRecord& vsan) {
+  return contained_domain_fill_reference(target.class_name, target.name_space, &vsan.entry,
+                                         configuration(vsan), target.broker);
+}
+
+CMPIInstance* contained_domain_instance(const Target& target, const VsanRecord& vsan) {
+  return contained_domain_build_instance(target.class_name, target.name_space, &vsan.entry,
+                                         configuration(vsan), target.broker);
+}
+
+std::vector<VsanRecord> contained_domains_named(int32_t q, const ObjectName& name) {
+  const ObjectName* vsan = name.reference("PartComponent");
+  return vsan != nullptr ? vsans_named(q, *vsan) : std::vector<VsanRecord>{};
+}
+
+std::vector<VsanRecord> contained_domains_of(int32_t q, const char* role,
+                                             const ObjectName& object) {
+  return same_name(role, "PartComponent") ? vsans_named(q, object) : all_vsans(q);
+}
+
+}  // namespace vexor::providers
