@@ -561,4 +561,30 @@ TEST(TraceText, OfAWwnIsItsLastBytePadded) {
   sprint_wwn(nullptr, nullptr);
 }
 
+// A bit set of 64 bits, one of them set.
+Bytes bit_set(int bit) {
+  return Record(260).be32(0, 64).byte(4 + static_cast<size_t>(bit) / 8,
+                                      static_cast<uint8_t>(1 << (bit % 8)));
+}
+
+TEST(BitSetLength, IsOneMoreThanTheBytesTouchedUnlessTheLastBitEndsAByte) {
+  const struct {
+    int last;
+    int32_t length;
+  } rows[] = {{0, 2}, {7, 1}, {8, 3}, {15, 2}, {16, 4}, {63, 8}};
+  for (const auto& row : rows)
+    EXPECT_EQ(fcs_trim_trailing_blanks(bit_set(row.last).data()), row.length) << row.last;
+}
+
+TEST(BitSetLength, CountsToTheLastBitSet) {
+  const Bytes bits = Record(260).be32(0, 64).byte(4, 0xff).byte(6, 0x81);
+  EXPECT_EQ(fcs_trim_trailing_blanks(bits.data()), 3);  // bit 23 ends a byte
+}
+
+TEST(BitSetLength, IsZeroWithoutABit) {
+  const uint8_t none[64] = {};
+  EXPECT_EQ(fcs_trim_trailing_blanks(none), 0);
+  EXPECT_EQ(fcs_trim_trailing_blanks(nullptr), 0);
+}
+
 }  // namespace

@@ -58,6 +58,25 @@ void destroy_handle(void* handle, const char* function);
 // Adds a failure to the test that is running.
 void double_failure(const std::string& text);
 
+// The content of the live message, when it is of the type; null, after a failure, when not.
+template <class Type>
+Type* content_of(const mts_msg_* message, const char* function) {
+  mts_msg_* live = live_message(message, function);
+  if (live == nullptr) return nullptr;
+  auto* content = dynamic_cast<Type*>(live->content.get());
+  if (content == nullptr) double_failure(std::string(function) + " of a message of another kind");
+  return content;
+}
+
+// The text that a function returns: kept until the script ends; null when there is none.
+const char* kept_text(const Answer& answer);
+
+// Memory of the script, of exactly these bytes, that stays until its end.
+const void* keep(const Bytes& bytes);
+
+// How many bytes the line that is next expects for the argument; 0 when it expects none.
+size_t expected_size(const char* function, const char* argument);
+
 // Arguments that are the same in every double.
 Argument number_argument(const char* name, int64_t value);
 Argument text_argument(const char* name, const char* value);

@@ -439,6 +439,12 @@ size_t live_blocks_of(uint32_t owner) {
   return count;
 }
 
+size_t live_block_size(const void* block, size_t otherwise) {
+  std::lock_guard lock(table.mutex);
+  const Block* known = table.find(block);
+  return known != nullptr && known->state == State::live ? known->size : otherwise;
+}
+
 }  // namespace test_support
 
 using test_support::allocate;

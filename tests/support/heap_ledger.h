@@ -137,6 +137,9 @@ std::vector<std::string> not_given_back(uint32_t owner);
 // How many are live.
 size_t live_blocks_of(uint32_t owner);
 
+// The size of the live block that begins here, or `otherwise` when none does.
+size_t live_block_size(const void* block, size_t otherwise);
+
 }  // namespace test_support
 
 #endif

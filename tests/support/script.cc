@@ -47,6 +47,7 @@ struct Script::Impl {
   std::vector<std::shared_ptr<ExpectedCall>> used;  // keeps the texts they returned
   std::deque<mts_msg_> messages;
   std::deque<Handle> handles;
+  std::deque<std::unique_ptr<uint8_t[]>> kept;
   std::map<int32_t, int> transport_errors;
   std::map<std::pair<std::string, int32_t>, std::string> texts;
   uint32_t owner = ++last_owner;
@@ -418,6 +419,33 @@ void* make_handle(const std::string& what, Content content) {
   if (current == nullptr) return nullptr;
   current->impl().handles.push_back({what, std::move(content)});
   return &current->impl().handles.back();
+}
+
+const char* kept_text(const Answer& answer) {
+  HeapLedger::Pause pause;
+  if (answer.refused || !answer.text) return nullptr;
+  Bytes bytes(answer.text->begin(), answer.text->end());
+  bytes.push_back(0);
+  return static_cast<const char*>(keep(bytes));
+}
+
+const void* keep(const Bytes& bytes) {
+  HeapLedger::Pause pause;
+  if (current == nullptr) return nullptr;
+  auto& kept = current->impl().kept;
+  kept.push_back(std::make_unique<uint8_t[]>(bytes.size()));
+  std::copy(bytes.begin(), bytes.end(), kept.back().get());
+  return kept.back().get();
+}
+
+size_t expected_size(const char* function, const char* argument) {
+  if (current == nullptr || current->impl().lines.empty()) return 0;
+  const ExpectedCall& line = *current->impl().lines.front();
+  if (line.function != function) return 0;
+  for (const ExpectedCall::Expectation& expectation : line.arguments) {
+    if (expectation.name == argument) return expectation.value.size();
+  }
+  return 0;
 }
 
 namespace {

@@ -41,6 +41,7 @@ class Value {
   bool operator==(const Value&) const = default;
   std::string print() const;
   int64_t as_number() const { return number_; }  // 0 for what is no number
+  size_t size() const { return bytes_.size(); }  // 0 for what is no bytes
   // What is wrong with `actual` where this was expected.
   std::string mismatch(const Value& actual) const;
 
@@ -52,7 +53,7 @@ class Value {
   Bytes bytes_;
 };
 
-// A call as a double saw it. Arguments in the order of the prototype.
+// A call as a double saw it.
 struct Argument {
   const char* name;
   Value value;
@@ -167,9 +168,44 @@ class Line {
     call_->answer.given = true;
     return call_->answer;
   }
+  Self& gives_number(uint32_t n) {
+    HeapLedger::Pause pause;
+    answer().numbers = {n};
+    return self();
+  }
+  Self& gives_text(const char* text) {
+    HeapLedger::Pause pause;
+    if (text != nullptr) answer().text = text;
+    return returns(0);
+  }
+  Self& gives_message(int64_t result, const Content& content) {
+    answer().message = content;
+    return returns(result);
+  }
 
  private:
   std::shared_ptr<ExpectedCall> call_;
+};
+
+// Base of calls that send a request whose reply is received later.
+template <class Self>
+class SendingLine : public Line<Self> {
+ public:
+  // Success: a request message, to be dropped by the library.
+  Self& sent() { return this->returns(0); }
+  // The token of the request; the script makes one up unless said.
+  Self& request_token(uint32_t token) {
+    this->answer().token = token;
+    return this->self();
+  }
+  // A failure that hands out a request message all the same.
+  Self& fails_with_message(int64_t result) {
+    HeapLedger::Pause pause;
+    return this->gives_message(result, std::make_shared<MessageContent>());
+  }
+
+ protected:
+  using Line<Self>::Line;
 };
 
 class Script {

@@ -27,8 +27,9 @@ std::vector<std::string> lines_of(std::string_view text) {
 std::string show(const std::vector<std::string>& lines, size_t i) {
   if (i >= lines.size()) return "(the end)\n";
   const std::string& line = lines[i];
-  std::string text = "|" + line.substr(0, line.find('\n')) + "|";
-  return text + (line.back() == '\n' ? "\n" : " without a line end\n");
+  std::string text = "|";
+  text.append(line, 0, line.find('\n'));
+  return text.append(line.back() == '\n' ? "|\n" : "| without a line end\n");
 }
 
 }  // namespace
