@@ -224,6 +224,11 @@ std::string type_text(CMPIType type) {
   return (type & CMPI_ARRAY) != 0 ? text + "[]" : text;
 }
 
+bool is_data_type(CMPIType type) {
+  const auto base = static_cast<CMPIType>(type & ~CMPI_ARRAY);
+  return base == CMPI_instance || schema_type(base).has_value();
+}
+
 CMPIType cmpi_type(schema::Type type, bool is_array) {
   static constexpr CMPIType kTypes[] = {CMPI_boolean, CMPI_char16,   CMPI_uint8,  CMPI_sint8,
                                         CMPI_uint16,  CMPI_sint16,   CMPI_uint32, CMPI_sint32,

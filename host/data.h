@@ -79,6 +79,8 @@ struct Instance {
 
 /// The type as MOF names it: "uint16", "string[]", "reference"; "chars" and the like otherwise.
 std::string type_text(CMPIType type);
+/// True for the types that values have, arrays included; false for CMPI_null, CMPI_args and others.
+bool is_data_type(CMPIType type);
 /// The CMPI type of a declaration.
 CMPIType cmpi_type(schema::Type type, bool is_array);
 CMPIType cmpi_type(const schema::Property& property);

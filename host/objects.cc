@@ -141,6 +141,8 @@ CMPIStatus make_status(CMPIrc code, const std::string& text) {
 
 Data data_from(const CMPIValue* value, CMPIType type) {
   if (type == CMPI_null) return Data::null_of(CMPI_null);
+  if (!is_data_type(type))
+    throw CimError(CMPI_RC_ERR_INVALID_DATA_TYPE, type_text(type) + " is no type of a value");
   if (value == nullptr) return Data::null_of(type == CMPI_chars ? CMPIType{CMPI_string} : type);
   if ((type & CMPI_ARRAY) != 0) return array_from(value->array, type);
   if (type == CMPI_chars) {

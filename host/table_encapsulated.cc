@@ -67,7 +67,7 @@ CMPIArray* new_array(const CMPIBroker* face, CMPICount size, CMPIType type, CMPI
       throw CimError(CMPI_RC_ERR_INVALID_PARAMETER,
                      "an array of " + std::to_string(size) + " elements is too large");
     }
-    if ((type & CMPI_ARRAY) != 0 || type_text(type).starts_with("CMPI type") || type == CMPI_null) {
+    if ((type & CMPI_ARRAY) != 0 || !is_data_type(type)) {
       throw CimError(CMPI_RC_ERR_INVALID_DATA_TYPE, "there are no arrays of " + type_text(type));
     }
     return make<CMPIArray>(broker, ArrayContent{type, std::vector<Element>(size)});

@@ -34,6 +34,12 @@ class OperationContextRep {
     return Exception(String("no such container: \"") + name + String("\""));
   }
 
+  static Owned cloned(const OperationContext::Container& container) {
+    Owned copy(container.clone());
+    if (copy == nullptr) throw Exception(String("a container cannot be cloned"));
+    return copy;
+  }
+
   std::vector<Owned> containers;
 };
 
@@ -45,7 +51,7 @@ OperationContext::OperationContext(const OperationContext& context) : _rep(nullp
   if (context._rep == nullptr) return;
   auto copy = std::make_unique<OperationContextRep>();
   for (const auto& container : context._rep->containers) {
-    copy->containers.emplace_back(container->clone());
+    copy->containers.push_back(OperationContextRep::cloned(*container));
   }
   _rep = copy.release();
 }
@@ -76,7 +82,7 @@ Boolean OperationContext::contains(const String& containerName) const {
 void OperationContext::set(const Container& container) {
   if (_rep == nullptr) throw OperationContextRep::missing(container.getName());
   const auto found = _rep->existing(container.getName());
-  *found = OperationContextRep::Owned(container.clone());
+  *found = OperationContextRep::cloned(container);
 }
 
 void OperationContext::insert(const Container& container) {
@@ -84,7 +90,7 @@ void OperationContext::insert(const Container& container) {
     throw AlreadyExistsException(String("container \"") + container.getName() + String("\""));
   }
   if (_rep == nullptr) _rep = new OperationContextRep;
-  _rep->containers.emplace_back(container.clone());
+  _rep->containers.push_back(OperationContextRep::cloned(container));
 }
 
 void OperationContext::remove(const String& containerName) {

@@ -76,7 +76,8 @@ const char* checkedText(const char* text) {
 }
 
 StringRep* fromText(const char* text) {
-  return fromUtf8(checkedText(text), std::strlen(text));
+  checkedText(text);
+  return fromUtf8(text, std::strlen(text));
 }
 
 StringRep* fromText(const char* text, size_t n) {

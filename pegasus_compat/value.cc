@@ -202,9 +202,13 @@ String asText(const CIMObject& x) {
 String asText(const CIMInstance& x) {
   return CIMObject(x).toString();
 }
+// Numbers, reals with as many digits as it takes to read the same number back. The locale of the
+// process has no say in it.
 template <class T>
-requires std::is_integral_v<T> String asText(const T& x) {
-  return String(std::to_string(x).c_str());
+requires std::is_arithmetic_v<T> String asText(const T& x) {
+  char text[64];
+  const auto end = std::to_chars(text, text + sizeof(text), x).ptr;
+  return String(text, static_cast<Uint32>(end - text));
 }
 
 // The text of a value, or of each element with the separator between them.
