@@ -31,6 +31,7 @@ int32_t leave() {
 int32_t handle() {
   switch (state) {
     case State::unbound:
+      gdb_check();  // lets a person attach a debugger before the provider's first request
       if (init_mts(&bound_handle) != 0 || bound_handle < 0)
         throw Failure(CMPI_RC_ERR_FAILED, "the switch's response queue cannot be bound");
       state = State::bound;

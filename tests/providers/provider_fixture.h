@@ -1,0 +1,162 @@
+// The providers as an object manager sees them: three provider objects made by the factories, a
+// switch of two VSANs, and one call per operation that gives what was returned and how it ended.
+#ifndef TESTS_PROVIDERS_PROVIDER_FIXTURE_H
+#define TESTS_PROVIDERS_PROVIDER_FIXTURE_H
+
+#include <cim_utils/session.h>
+#include <gtest/gtest.h>
+#include <pthread.h>
+
+#include <optional>
+
+#include "providers/queue.h"
+#include "tests/providers/switch_double.h"
+#include "tests/providers/test_broker.h"
+#include "tests/support/capture.h"
+#include "tests/support/os_double.h"
+
+extern "C" {
+CMPIInstanceMI* _Generic_Create_InstanceMI(const CMPIBroker*, const CMPIContext*, const char*,
+                                           CMPIStatus*);
+CMPIAssociationMI* _Generic_Create_AssociationMI(const CMPIBroker*, const CMPIContext*, const char*,
+                                                 CMPIStatus*);
+CMPIMethodMI* _Generic_Create_MethodMI(const CMPIBroker*, const CMPIContext*, const char*,
+                                       CMPIStatus*);
+}
+
+namespace provider_tests {
+
+inline bool lock_is_free() {
+  if (pthread_mutex_trylock(&global_mutex) != 0) return false;
+  pthread_mutex_unlock(&global_mutex);
+  return true;
+}
+
+inline constexpr const char* kVsan1 =
+    "root/cimv2:VEXOR_Vsan.Name=\"2001000DEC0A1B2D\",CreationClassName=\"VEXOR_Vsan\"";
+inline constexpr const char* kVsan2 =
+    "root/cimv2:VEXOR_Vsan.Name=\"2002000DEC0A1B2D\",CreationClassName=\"VEXOR_Vsan\"";
+inline constexpr const char* kFabric =
+    "root/cimv2:VEXOR_AdminDomain.Name=\"2001000DEC0A1B2D\","
+    "CreationClassName=\"VEXOR_AdminDomain\"";
+inline constexpr const char* kVsan1Instance =
+    "VEXOR_Vsan {Name=\"2001000DEC0A1B2D\", NameFormat=\"WWN\", ElementName=\"VSAN0001\", "
+    "VsanId=uint16 1, Status=\"Up\", CreationClassName=\"VEXOR_Vsan\", "
+    "LoadBalancingType=\"src-id/dst-id/ox-id\"}";
+inline constexpr const char* kVsan2Instance =
+    "VEXOR_Vsan {Name=\"2002000DEC0A1B2D\", NameFormat=\"WWN\", ElementName=\"VSAN0002\", "
+    "VsanId=uint16 2, Status=\"Up\", CreationClassName=\"VEXOR_Vsan\", "
+    "LoadBalancingType=\"src-id/dst-id/ox-id\"}";
+inline constexpr const char* kFabricInstance =
+    "VEXOR_AdminDomain {NameFormat=\"WWN\", Name=\"2001000DEC0A1B2D\", ElementName=\"VSAN0001\", "
+    "Status=\"Up\", CreationClassName=\"VEXOR_AdminDomain\"}";
+
+// How an operation ended, and what it returned until then.
+struct Answer {
+  CMPIrc code = CMPI_RC_OK;
+  std::string message;
+  Returned returned;
+};
+
+class ProviderFixture : public testing::Test {
+ protected:
+  ProviderFixture() {
+    mts_q = test_support::kQueue;     // bound by someone else before: init_mts gives it out
+    vexor::providers::queue::join();  // so that the tests of one process share one bound queue
+    broker_.expect_free_lock_on_return();
+    instances_ = _Generic_Create_InstanceMI(broker_.face(), nullptr, "VexorProvider", nullptr);
+    associations_ =
+        _Generic_Create_AssociationMI(broker_.face(), nullptr, "VexorProvider", nullptr);
+    methods_ = _Generic_Create_MethodMI(broker_.face(), nullptr, "VexorProvider", nullptr);
+  }
+  ~ProviderFixture() override {
+    EXPECT_TRUE(lock_is_free());
+    associations_->ft->cleanup(associations_, nullptr, 1);
+    methods_->ft->cleanup(methods_, nullptr, 1);
+    instances_->ft->cleanup(instances_, nullptr, 1);
+  }
+
+  // Runs operation(const CMPIResult*).
+  template <class Operation>
+  Answer ask(Operation operation) {
+    Answer answer;
+    const CMPIStatus status = operation(broker_.result(answer.returned));
+    answer.code = status.rc;
+    answer.message = broker_.text(status.msg);
+    EXPECT_TRUE(lock_is_free());
+    EXPECT_EQ(answer.returned.done, status.rc == CMPI_RC_OK ? 1 : 0);
+    return answer;
+  }
+
+  Answer names(const char* class_name) {
+    return ask([&](const CMPIResult* result) {
+      return instances_->ft->enumerateInstanceNames(instances_, nullptr, result,
+                                                    broker_.path(class_name));
+    });
+  }
+  Answer enumerate(const char* class_name, const char** properties = nullptr) {
+    return ask([&](const CMPIResult* result) {
+      return instances_->ft->enumerateInstances(instances_, nullptr, result,
+                                                broker_.path(class_name), properties);
+    });
+  }
+  Answer get(const CMPIObjectPath* path, const char** properties = nullptr) {
+    return ask([&](const CMPIResult* result) {
+      return instances_->ft->getInstance(instances_, nullptr, result, path, properties);
+    });
+  }
+  struct Filter {
+    const char* association = nullptr;
+    const char* result_class = nullptr;
+    const char* role = nullptr;
+    const char* result_role = nullptr;
+  };
+  Answer associators(const CMPIObjectPath* path, const Filter& filter,
+                     const char** properties = nullptr) {
+    return ask([&](const CMPIResult* result) {
+      return associations_->ft->associators(associations_, nullptr, result, path,
+                                            filter.association, filter.result_class, filter.role,
+                                            filter.result_role, properties);
+    });
+  }
+  Answer associator_names(const CMPIObjectPath* path, const Filter& filter) {
+    return ask([&](const CMPIResult* result) {
+      return associations_->ft->associatorNames(associations_, nullptr, result, path,
+                                                filter.association, filter.result_class,
+                                                filter.role, filter.result_role);
+    });
+  }
+  Answer references(const CMPIObjectPath* path, const Filter& filter,
+                    const char** properties = nullptr) {
+    return ask([&](const CMPIResult* result) {
+      return associations_->ft->references(associations_, nullptr, result, path,
+                                           filter.result_class, filter.role, properties);
+    });
+  }
+  Answer reference_names(const CMPIObjectPath* path, const Filter& filter) {
+    return ask([&](const CMPIResult* result) {
+      return associations_->ft->referenceNames(associations_, nullptr, result, path,
+                                               filter.result_class, filter.role);
+    });
+  }
+
+  CMPIObjectPath* vsan_path(const char* name) {
+    return broker_.path("VEXOR_Vsan", {{"Name", name}, {"CreationClassName", "VEXOR_Vsan"}});
+  }
+  CMPIObjectPath* fabric_path(const char* name = "2001000DEC0A1B2D") {
+    return broker_.path("VEXOR_AdminDomain",
+                        {{"Name", name}, {"CreationClassName", "VEXOR_AdminDomain"}});
+  }
+
+  test_support::OsDouble system_;
+  test_support::StdioCapture out_;
+  TestBroker broker_;
+  SwitchDouble switch_{2};
+  CMPIInstanceMI* instances_ = nullptr;
+  CMPIAssociationMI* associations_ = nullptr;
+  CMPIMethodMI* methods_ = nullptr;
+};
+
+}  // namespace provider_tests
+
+#endif

@@ -1,0 +1,102 @@
+// A switch with as many VSANs as a test asks for, behind the platform's request call.
+#ifndef TESTS_PROVIDERS_SWITCH_DOUBLE_H
+#define TESTS_PROVIDERS_SWITCH_DOUBLE_H
+
+#include <cstdint>
+#include <map>
+#include <string>
+
+#include "tests/support/double_cmi.h"
+
+namespace provider_tests {
+
+inline constexpr uint32_t kCountOpcode = 125;
+inline constexpr uint32_t kVsanOpcode = 149;
+inline constexpr uint32_t kDomainOpcode = 264;
+inline constexpr int32_t kNoSuchVsan = 0x40330005;
+
+class SwitchDouble {
+ public:
+  // VSANs 1 to n, all active and up, each with the WWN 2VVV000DEC0A1B2D that holds its number, and
+  // named "VSAN" and its number in four digits.
+  explicit SwitchDouble(uint32_t n)
+      : responder_([this](const test_support::Request& request) { return answer(request); }) {
+    const test_support::HeapLedger::Pause pause;
+    for (uint32_t number = 1; number <= n; ++number)
+      vsans_[number] = {};
+  }
+  ~SwitchDouble() {
+    const test_support::HeapLedger::Pause pause;
+    vsans_.clear();
+  }
+
+  // A suspended VSAN is down and has no domain manager.
+  void suspend(uint32_t number) { vsans_[number].state = 2; }
+  // The domain manager does not run in the VSAN, which then goes by this WWN.
+  void alternate_wwn(uint32_t number, const char* wwn) { vsans_[number].alternate = wwn; }
+  void remove(uint32_t number) { vsans_.erase(number); }
+  void domain_manager_refuses(uint32_t number) { vsans_[number].refused = true; }
+
+  test_support::Responder& responder() { return responder_; }
+  size_t calls(uint32_t opcode) const { return responder_.calls(opcode); }
+  size_t calls() const { return responder_.calls(); }
+
+ private:
+  struct Vsan {
+    uint32_t state = 1;
+    const char* alternate = nullptr;
+    bool refused = false;
+  };
+
+  test_support::Response answer(const test_support::Request& request) {
+    const test_support::HeapLedger::Pause pause;
+    switch (request.opcode) {
+      case kCountOpcode:
+        return test_support::Response::with(
+            test_support::Record(4).be32(0, static_cast<uint32_t>(vsans_.size())));
+      case kVsanOpcode: {
+        const uint32_t number = request.be32(520);
+        const auto found =
+            request.operation == 2 ? vsans_.upper_bound(number) : vsans_.find(number);
+        if (found == vsans_.end()) return test_support::Response::failed(kNoSuchVsan);
+        return test_support::Response::with(entry(found->first, found->second));
+      }
+      case kDomainOpcode: {
+        const auto found = vsans_.find(request.be32(0));
+        if (found == vsans_.end() || found->second.refused || found->second.state != 1)
+          return test_support::Response::failed(kNoSuchVsan);
+        return test_support::Response::with(configuration(found->first, found->second));
+      }
+      default:
+        return test_support::Response::failed(-1);
+    }
+  }
+
+  static test_support::Bytes entry(uint32_t number, const Vsan& vsan) {
+    char name[16];
+    std::snprintf(name, sizeof name, "VSAN%04u", number);
+    return test_support::Record(2632)
+        .be32(520, number)
+        .be32(528, vsan.state)
+        .be32(544, 2)
+        .be32(552, vsan.state)
+        .text(556, name);
+  }
+
+  static test_support::Bytes configuration(uint32_t number, const Vsan& vsan) {
+    test_support::Record record(1152);
+    record.be32(0, number).be32(4, 1);
+    if (vsan.alternate != nullptr) return record.put(340, test_support::hex(vsan.alternate));
+    return record.byte(22, static_cast<uint8_t>(0x20 | number >> 8))
+        .byte(23, static_cast<uint8_t>(number))
+        .put(24, test_support::hex("00 0d ec 0a 1b 2d"))
+        .byte(334, 1);
+  }
+
+  std::map<uint32_t, Vsan> vsans_;
+  test_support::Responder responder_;
+};
+
+}  // namespace provider_tests
+
+#endif

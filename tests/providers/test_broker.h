@@ -1,0 +1,83 @@
+// A small object manager for provider tests: objects with all their getters, results that keep what
+// a provider returns, and the ways in which brokers differ and fail.
+//
+// Its own memory is not seen by a heap ledger. Objects live as long as it does. Two threads may use
+// it at once.
+#ifndef TESTS_PROVIDERS_TEST_BROKER_H
+#define TESTS_PROVIDERS_TEST_BROKER_H
+
+#include <cmpidt.h>
+#include <cmpift.h>
+
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace provider_tests {
+
+using Texts = std::vector<std::string>;
+
+// What a provider returned. Paths and instances as texts:
+//   root/cimv2:VEXOR_Vsan.Name="2001000DEC0A1B2D",CreationClassName="VEXOR_Vsan"
+//   VEXOR_Vsan {Name="2001000DEC0A1B2D", VsanId=uint16 1}
+struct Returned {
+  Texts paths;
+  Texts instances;
+  Texts data;
+  int done = 0;
+};
+
+class TestBroker {
+ public:
+  TestBroker();
+  ~TestBroker();
+  TestBroker(const TestBroker&) = delete;
+  TestBroker& operator=(const TestBroker&) = delete;
+
+  const CMPIBroker* face() const;
+
+  // ---- requests ----
+  // A path of root/cimv2.
+  CMPIObjectPath* path(const char* class_name,
+                       const std::vector<std::pair<const char*, const char*>>& text_keys = {});
+  CMPIObjectPath* add_reference(CMPIObjectPath* path, const char* key, CMPIObjectPath* object);
+  CMPIInstance* instance(const char* class_name);
+  CMPIArgs* arguments();
+  // A result that keeps what it is given in `returned`, which must outlive it.
+  CMPIResult* result(Returned& returned);
+
+  std::string text(const CMPIObjectPath* path) const;
+  std::string text(const CMPIInstance* instance) const;
+  std::string text(const CMPIString* string) const;  // "" for null
+
+  // ---- how it behaves ----
+  // Classes are unknown to classPathIsA until their superclass was told.
+  void derives(const char* class_name, const char* superclass);
+  // A property that has another type than this is refused.
+  void declare(const char* property, CMPIType type);
+  // Slots that brokers leave out: classPathIsA, setPropertyFilter.
+  void leave_out_optional_slots();
+  void ignore_property_filters();
+  // While it is set, objects may only be returned while the library's lock is free.
+  void expect_free_lock_on_return();
+
+  // ---- how it fails: the n-th from now on, once ----
+  void fail_path(int n);
+  void fail_instance(int n);
+  void fail_return(int n, CMPIrc code);
+  void fail_property(int n);
+
+  // Calls of setProperty that reached it, refused ones included.
+  int properties_set() const;
+
+  struct Impl;
+
+ private:
+  std::unique_ptr<Impl> impl_;
+};
+
+}  // namespace provider_tests
+
+#endif
