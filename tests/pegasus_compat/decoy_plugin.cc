@@ -8,6 +8,7 @@
 #include <Pegasus/Provider/vexor_class_source.h>
 
 #include <memory>
+#include <sstream>
 #include <string>
 
 namespace {
@@ -28,24 +29,24 @@ std::string described() {
   numbers.append(6);
   Array<String> texts(1, String("t"));
   texts.append(String::EMPTY);
-  std::string result(instance.getPath().toString().getCString());
-  result += " " + std::to_string(instance.getPropertyCount());
-  result += " " + std::to_string(numbers[2]) + " " + std::to_string(texts.size());
+  std::ostringstream result;
+  result << instance.getPath().toString() << ' ' << instance.getPropertyCount() << ' ' << numbers[2]
+         << ' ' << texts.size();
   try {
     instance.addProperty(CIMProperty(CIMName("TEXT"), CIMValue()));
   } catch (const Exception& error) {
-    result += std::string(" ") + static_cast<const char*>(error.getMessage().getCString());
+    result << ' ' << error.getMessage();
   }
   try {
     CIMOMHandle handle(loadedHandle);
     handle.getClass(OperationContext(), CIMNamespaceName("root"), CIMName("B"), false, true, true,
                     CIMPropertyList());
   } catch (const CIMException& error) {
-    result += std::string(" ") + static_cast<const char*>(error.getMessage().getCString());
+    result << ' ' << error.getMessage();
   }
-  result += " " + std::to_string(loadedText.size());
-  if (System::getPID() == 0) result += " no process";
-  return result;
+  result << ' ' << loadedText.size();
+  if (System::getPID() == 0) result << " no process";
+  return result.str();
 }
 
 class NoClasses : public ClassSource {

@@ -58,8 +58,9 @@ TEST(System, HostNameOfAnyLengthEnds) {
 
 TEST(System, CurrentAsciiTimeIsLocalDateAndTime) {
   const String text = System::getCurrentASCIITime();
+  const Pegasus::CString chars = text.getCString();
   tm read{};
-  const char* end = strptime(text.getCString(), "%m/%d/%Y-%H:%M:%S", &read);
+  const char* end = strptime(chars, "%m/%d/%Y-%H:%M:%S", &read);
   ASSERT_NE(end, nullptr);
   EXPECT_EQ(*end, '\0');
   EXPECT_EQ(text.size(), 19U);
