@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <set>
 
+#include "simulator/fabric/json.h"
+
 namespace switch_sim {
 namespace {
 
@@ -20,7 +22,7 @@ const auto kSwitchWwn = [](const Switch& element) { return element.wwn; };
 const auto kVsanNumber = [](const Vsan& element) { return element.number; };
 const auto kDomainSwitch = [](const DomainManager& element) { return element.switch_wwn; };
 
-bool has_control_character(const std::string& text) {
+bool has_control_character(std::string_view text) {
   return std::any_of(text.begin(), text.end(), [](char character) {
     return static_cast<unsigned char>(character) < 0x20 || character == 0x7F;
   });
@@ -34,13 +36,12 @@ std::optional<std::string> problem_of(const Switch& element) {
   }
   if (element.name.empty()) return where + ": the name is empty";
   if (element.name.size() > kLongestSystemName) return where + ": the name is too long";
-  if (has_control_character(element.name)) {
-    return where + ": the name holds a control character";
-  }
+  if (!is_name(element.name)) return where + ": the name is not UTF-8 of one line";
   for (const std::string* text : {&element.system.contact, &element.system.location,
                                   &element.system.description, &element.system.software_version}) {
     if (text->size() > kLongestSystemText) return where + ": a system text is too long";
     if (text->find('\0') != std::string::npos) return where + ": a system text holds a zero byte";
+    if (!json::is_utf8(*text)) return where + ": a system text is not UTF-8";
   }
   if (element.system.object_id.size() > kLongestObjectId) {
     return where + ": the object identifier has too many components";
@@ -75,7 +76,7 @@ std::optional<std::string> problem_of_vsan(const Fabric& fabric, const Vsan& vsa
   }
   if (vsan.name.empty()) return where + ": the name is empty";
   if (vsan.name.size() > kLongestVsanName) return where + ": the name is too long";
-  if (has_control_character(vsan.name)) return where + ": the name holds a control character";
+  if (!is_name(vsan.name)) return where + ": the name is not UTF-8 of one line";
 
   std::set<uint8_t> domain_ids;
   for (size_t i = 0; i < vsan.domains.size(); ++i) {
@@ -98,6 +99,10 @@ std::optional<std::string> problem_of_vsan(const Fabric& fabric, const Vsan& vsa
 }
 
 }  // namespace
+
+bool is_name(std::string_view text) {
+  return !text.empty() && !has_control_character(text) && json::is_utf8(text);
+}
 
 void sort(Fabric& fabric) {
   const auto by = [](auto key_of) {
