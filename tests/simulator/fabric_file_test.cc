@@ -143,6 +143,20 @@ TEST(FabricFile, EveryValueIsReadAndWritten) {
   EXPECT_EQ(fabric, fabric_of(written));
 }
 
+TEST(FabricFile, TheExampleOfTheDocumentIsRead) {
+  std::ifstream document(std::string(CIM_SOURCE_DIR) + "/docs/fabric-file.md");
+  std::string text;
+  bool in_example = false;
+  for (std::string line; std::getline(document, line);) {
+    if (line == "    {") in_example = true;
+    if (in_example) text += line + "\n";
+    if (in_example && line == "    }") break;
+  }
+  const Fabric fabric = fabric_of(text);
+  EXPECT_EQ(2U, fabric.switches.size());
+  EXPECT_EQ(switch_sim::VsanState::suspended, fabric.vsans.at(1).state);
+}
+
 TEST(FabricFile, AnEmptyListIsWrittenInOneLine) {
   const Fabric fabric = fabric_of(
       R"({"version": 1, "local_switch": "a",
