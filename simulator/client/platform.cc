@@ -1,5 +1,7 @@
 #include "simulator/client/platform.h"
 
+#include <unistd.h>
+
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -18,6 +20,11 @@ Outcome transport_failure(int error_number) {
   return outcome;
 }
 
+std::string environment(const char* name) {
+  const char* value = getenv(name);
+  return value != nullptr ? value : "";
+}
+
 }  // namespace
 
 // Never destroyed: client functions may still be called while the process ends.
@@ -32,16 +39,49 @@ Platform::Platform() {
 }
 
 // Told once, on standard error: a library must not end the process that loaded it.
-void Platform::refuse_everything(std::string why) {
-  startup_problem_ = std::move(why);
-  fprintf(stderr, "switch simulator: %s; every request is refused\n", startup_problem_.c_str());
+void Platform::read_environment() {
+  if (auto problem = problem_with_environment()) {
+    startup_problem_ = std::move(*problem);
+    fprintf(stderr, "switch simulator: %s; every request is refused\n", startup_problem_.c_str());
+  }
 }
 
-void Platform::read_environment() {
-  const char* trace = getenv("SWITCH_SIM_TRACE");
-  if (trace != nullptr && *trace != '\0' && !log_.write_to(trace)) {
-    refuse_everything(std::string("SWITCH_SIM_TRACE=") + trace + ": " + strerror(errno));
+std::optional<std::string> Platform::problem_with_environment() {
+  const std::string trace = environment("SWITCH_SIM_TRACE");
+  if (!trace.empty() && !log_.write_to(trace.c_str())) {
+    return "SWITCH_SIM_TRACE: " + trace + ": " + strerror(errno);
   }
+  const std::string file = environment("SWITCH_SIM_FABRIC");
+  if (!file.empty()) {
+    auto read = read_fabric_file(file);
+    if (const auto* error = std::get_if<FabricError>(&read)) {
+      return "SWITCH_SIM_FABRIC: " + error->message;
+    }
+    fabric_ = std::get<Fabric>(std::move(read));
+  }
+  if (const auto error = keep_state_in(environment("SWITCH_SIM_STATE"))) {
+    return "SWITCH_SIM_STATE: " + error->message;
+  }
+  return std::nullopt;
+}
+
+void Platform::install(Fabric fabric) {
+  fabric_ = std::move(fabric);
+  startup_problem_.clear();
+}
+
+std::optional<FabricError> Platform::keep_state_in(const std::string& path) {
+  if (!path.empty()) {
+    if (access(path.c_str(), F_OK) == 0 || errno != ENOENT) {
+      auto read = read_fabric_file(path);
+      if (auto* error = std::get_if<FabricError>(&read)) return std::move(*error);
+      install(std::get<Fabric>(std::move(read)));
+    } else if (auto error = problem_of_new_file(path)) {
+      return error;
+    }
+  }
+  state_path_ = path;
+  return std::nullopt;
 }
 
 // The services, behind the faults, behind the log: the log holds what the client saw.
@@ -55,7 +95,22 @@ std::unique_ptr<Carrier> Platform::open_carrier() {
 Outcome Platform::handle(const Request& request) {
   if (!startup_problem_.empty()) return services::refuse(status::kFabricNotUsable);
   if (recording_) return recording_->next_for(request);
-  return answer(request, fabric_, clock_.now());
+  return request.operation == kSet ? change(request) : answer(request, fabric_, clock_.now());
+}
+
+// A change counts only once it is saved.
+Outcome Platform::change(const Request& request) {
+  Fabric changed = fabric_;
+  Outcome outcome = answer(request, changed, clock_.now());
+  if (outcome.status != status::kOk || changed == fabric_) return outcome;
+  if (!state_path_.empty()) {
+    if (auto error = save_fabric_file(changed, state_path_)) {
+      fprintf(stderr, "switch simulator: a change was not saved: %s\n", error->message.c_str());
+      return services::refuse(status::kStateNotSaved);
+    }
+  }
+  fabric_ = std::move(changed);
+  return outcome;
 }
 
 int32_t Platform::bind() {

@@ -15,6 +15,7 @@
 #include <switch_platform/types.h>
 
 #include "simulator/fabric/fabric.h"
+#include "simulator/fabric/fabric_file.h"
 #include "simulator/transport/faults.h"
 #include "simulator/transport/message.h"
 #include "simulator/transport/recording.h"
@@ -81,7 +82,11 @@ class Platform {
 
   // For the control interface.
   const Fabric& fabric() const { return fabric_; }
-  void install(Fabric fabric) { fabric_ = std::move(fabric); }
+  void install(Fabric fabric);  // also ends what was wrong at the start
+
+  // Answers from what the file holds, where it exists, and saves every change of the fabric to it
+  // before the change is acknowledged. An empty path ends that.
+  std::optional<FabricError> keep_state_in(const std::string& path);
   VirtualClock& clock() { return clock_; }
   RequestLog& log() { return log_; }
   FaultPlan& faults() { return faults_; }
@@ -99,9 +104,10 @@ class Platform {
 
   Platform();
   void read_environment();
-  void refuse_everything(std::string why);
+  std::optional<std::string> problem_with_environment();
   std::unique_ptr<Carrier> open_carrier();
   Outcome handle(const Request& request);
+  Outcome change(const Request& request);
   Outcome exchange(std::unique_ptr<Carrier>& carrier, const Request& request);
 
   std::mutex mutex_;
@@ -111,6 +117,7 @@ class Platform {
   RequestLog log_;
   FaultPlan faults_;
   std::unique_ptr<Recording> recording_;
+  std::string state_path_;       // empty: changes are not saved
   std::string startup_problem_;  // not empty: the environment cannot be used, nothing is answered
 
   int32_t next_queue_ = 1;

@@ -1,6 +1,7 @@
 #include "simulator/control/control.h"
 
 #include "simulator/client/platform.h"
+#include "simulator/fabric/generator.h"
 #include "simulator/local/fabric_distribution_response.h"
 
 namespace switch_sim::control {
@@ -11,6 +12,15 @@ auto locked(Work work) {
   Platform& platform = Platform::instance();
   const auto lock = platform.lock();
   return work(platform);
+}
+
+std::optional<std::string> text_of(std::optional<FabricError> error) {
+  return error ? std::optional(std::move(error->message)) : std::nullopt;
+}
+
+std::optional<std::string> install_read(ReadFabric read) {
+  if (auto* error = std::get_if<FabricError>(&read)) return std::move(error->message);
+  return install(std::get<Fabric>(std::move(read)));
 }
 
 }  // namespace
@@ -30,8 +40,34 @@ std::optional<std::string> install(Fabric fabric) {
   return std::nullopt;
 }
 
+std::optional<std::string> install_text(const std::string& text, const std::string& name) {
+  return install_read(parse_fabric(text, name));
+}
+
+std::optional<std::string> install_file(const std::string& path) {
+  return install_read(read_fabric_file(path));
+}
+
+std::optional<std::string> install_generated(const std::string& description) {
+  return install_read(generate_fabric(description));
+}
+
+std::string fabric_text() {
+  return locked([](Platform& platform) { return write_fabric(platform.fabric()); });
+}
+
+std::optional<std::string> save(const std::string& path) {
+  return locked(
+      [&](Platform& platform) { return text_of(save_fabric_file(platform.fabric(), path)); });
+}
+
+std::optional<std::string> keep_state_in(const std::string& path) {
+  return locked([&](Platform& platform) { return text_of(platform.keep_state_in(path)); });
+}
+
 void reset() {
   locked([](Platform& platform) {
+    platform.keep_state_in("");
     platform.install(switch_sim::default_fabric());
     platform.log().keep(false);
     platform.log().clear();

@@ -18,12 +18,27 @@ namespace switch_sim::control {
 Fabric fabric();
 Fabric default_fabric();
 
-// Answers from another fabric from now on. A fabric that breaks the rules of the model is not
-// taken; the result then tells what is wrong with it.
+// Answers from another fabric from now on, also when the environment could not be used. A fabric
+// that breaks the rules of the model is not taken; the result then tells what is wrong with it.
 std::optional<std::string> install(Fabric fabric);
 
-// Back to the default fabric, an empty log, no faults, no replay, counts at zero, and a clock at
-// zero. Queues stay bound.
+// As install, from the text of a fabric file (`name` is what errors call it), from a file, or from
+// the numbers of the generator ("switches=8,ports=48,vsans=8,devices=200,seed=7"). Errors of a file
+// name line and column.
+std::optional<std::string> install_text(const std::string& text, const std::string& name);
+std::optional<std::string> install_file(const std::string& path);
+std::optional<std::string> install_generated(const std::string& description);
+
+// The fabric file of the present fabric.
+std::string fabric_text();
+std::optional<std::string> save(const std::string& path);
+
+// Installs what the file holds, where it exists, and from now on saves every change of the fabric
+// to it before the change is acknowledged. An empty path ends that.
+std::optional<std::string> keep_state_in(const std::string& path);
+
+// Back to the default fabric, an empty log, no faults, no replay, no state file, counts at
+// zero, and a clock at zero. Queues stay bound.
 void reset();
 
 // The environment could not be used (the text tells why), and every request is refused.

@@ -1,7 +1,9 @@
 #include "simulator/fabric/fabric.h"
 
 #include <algorithm>
-#include <set>
+#include <utility>
+
+#include "simulator/fabric/json.h"
 
 namespace switch_sim {
 namespace {
@@ -20,74 +22,78 @@ const auto kSwitchWwn = [](const Switch& element) { return element.wwn; };
 const auto kVsanNumber = [](const Vsan& element) { return element.number; };
 const auto kDomainSwitch = [](const DomainManager& element) { return element.switch_wwn; };
 
-bool has_control_character(const std::string& text) {
+bool has_control_character(std::string_view text) {
   return std::any_of(text.begin(), text.end(), [](char character) {
     return static_cast<unsigned char>(character) < 0x20 || character == 0x7F;
   });
 }
 
-std::optional<std::string> problem_of(const Switch& element) {
-  const std::string where = "switch " + to_text(element.wwn);
+// The problems of one element come without its name, which costs more than the tests themselves.
+const char* problem_of(const Switch& element) {
   // The first two bytes are where a VSAN, a slot and a port are written in derived WWNs.
   if (element.wwn.bytes[0] != 0x20 || element.wwn.bytes[1] != 0) {
-    return where + ": a switch WWN starts with 20:00";
+    return "a switch WWN starts with 20:00";
   }
-  if (element.name.empty()) return where + ": the name is empty";
-  if (element.name.size() > kLongestSystemName) return where + ": the name is too long";
-  if (has_control_character(element.name)) {
-    return where + ": the name holds a control character";
-  }
+  if (element.name.empty()) return "the name is empty";
+  if (element.name.size() > kLongestSystemName) return "the name is too long";
+  if (!is_name(element.name)) return "the name is not UTF-8 of one line";
   for (const std::string* text : {&element.system.contact, &element.system.location,
                                   &element.system.description, &element.system.software_version}) {
-    if (text->size() > kLongestSystemText) return where + ": a system text is too long";
-    if (text->find('\0') != std::string::npos) return where + ": a system text holds a zero byte";
+    if (text->size() > kLongestSystemText) return "a system text is too long";
+    if (text->find('\0') != std::string::npos) return "a system text holds a zero byte";
+    if (!json::is_utf8(*text)) return "a system text is not UTF-8";
   }
   if (element.system.object_id.size() > kLongestObjectId) {
-    return where + ": the object identifier has too many components";
+    return "the object identifier has too many components";
   }
-  return std::nullopt;
+  return nullptr;
 }
 
-std::optional<std::string> problem_of_domain(const Fabric& fabric, const Vsan& vsan,
-                                             const DomainManager& domain) {
-  const std::string where =
-      "VSAN " + std::to_string(vsan.number) + ", domain manager of " + to_text(domain.switch_wwn);
-  if (find_switch(fabric, domain.switch_wwn) == nullptr) return where + ": no such switch";
+const char* problem_of(const Fabric& fabric, const DomainManager& domain) {
+  if (find_switch(fabric, domain.switch_wwn) == nullptr) return "no such switch";
   if (domain.enabled != (domain.domain_id != 0)) {
-    return where + ": an enabled domain manager has a domain ID, another has none";
+    return "an enabled domain manager has a domain ID, another has none";
   }
   if (domain.domain_id > kLargestDomainId || domain.configured_domain_id > kLargestDomainId) {
-    return where + ": a domain ID is at most 239";
+    return "a domain ID is at most 239";
   }
   if (domain.configured_priority < 1 || domain.configured_priority > 254) {
-    return where + ": a priority lies between 1 and 254";
+    return "a priority lies between 1 and 254";
   }
   if (domain.configured_type == DomainType::static_id && domain.configured_domain_id == 0) {
-    return where + ": a static domain ID is not 0";
+    return "a static domain ID is not 0";
+  }
+  return nullptr;
+}
+
+std::optional<std::string> problem_of_domains(const Fabric& fabric, const Vsan& vsan) {
+  const std::string where = "VSAN " + std::to_string(vsan.number);
+  std::array<bool, 256> used{};
+  const DomainManager* previous = nullptr;
+  for (const DomainManager& domain : vsan.domains) {
+    if (previous != nullptr && domain.switch_wwn == previous->switch_wwn) {
+      return where + ": two domain managers of " + to_text(domain.switch_wwn);
+    }
+    previous = &domain;
+    if (const char* problem = problem_of(fabric, domain)) {
+      return where + ", domain manager of " + to_text(domain.switch_wwn) + ": " + problem;
+    }
+    if (domain.domain_id != 0 && std::exchange(used[domain.domain_id], true)) {
+      return where + ": domain ID " + std::to_string(domain.domain_id) + " is used twice";
+    }
   }
   return std::nullopt;
 }
 
-std::optional<std::string> problem_of_vsan(const Fabric& fabric, const Vsan& vsan) {
+std::optional<std::string> problem_of(const Fabric& fabric, const Vsan& vsan) {
   const std::string where = "VSAN " + std::to_string(vsan.number);
   if (vsan.number < 1 || vsan.number > kLargestVsan) {
     return where + ": a VSAN number lies between 1 and 4094";
   }
   if (vsan.name.empty()) return where + ": the name is empty";
   if (vsan.name.size() > kLongestVsanName) return where + ": the name is too long";
-  if (has_control_character(vsan.name)) return where + ": the name holds a control character";
-
-  std::set<uint8_t> domain_ids;
-  for (size_t i = 0; i < vsan.domains.size(); ++i) {
-    const DomainManager& domain = vsan.domains[i];
-    if (i > 0 && domain.switch_wwn == vsan.domains[i - 1].switch_wwn) {
-      return where + ": two domain managers of " + to_text(domain.switch_wwn);
-    }
-    if (auto problem = problem_of_domain(fabric, vsan, domain)) return problem;
-    if (domain.domain_id != 0 && !domain_ids.insert(domain.domain_id).second) {
-      return where + ": domain ID " + std::to_string(domain.domain_id) + " is used twice";
-    }
-  }
+  if (!is_name(vsan.name)) return where + ": the name is not UTF-8 of one line";
+  if (auto problem = problem_of_domains(fabric, vsan)) return problem;
   if (vsan.principal_switch != kNoWwn) {
     const DomainManager* principal = find_domain(vsan, vsan.principal_switch);
     if (principal == nullptr || !principal->enabled) {
@@ -98,6 +104,10 @@ std::optional<std::string> problem_of_vsan(const Fabric& fabric, const Vsan& vsa
 }
 
 }  // namespace
+
+bool is_name(std::string_view text) {
+  return !text.empty() && !has_control_character(text) && json::is_utf8(text);
+}
 
 void sort(Fabric& fabric) {
   const auto by = [](auto key_of) {
@@ -113,13 +123,15 @@ void sort(Fabric& fabric) {
 std::optional<std::string> problem_of(const Fabric& fabric) {
   if (find_switch(fabric, fabric.local_switch) == nullptr) return "the local switch is missing";
   for (size_t i = 0; i < fabric.switches.size(); ++i) {
-    if (auto problem = problem_of(fabric.switches[i])) return problem;
+    if (const char* problem = problem_of(fabric.switches[i])) {
+      return "switch " + to_text(fabric.switches[i].wwn) + ": " + problem;
+    }
     if (i > 0 && fabric.switches[i].wwn == fabric.switches[i - 1].wwn) {
       return "two switches with the WWN " + to_text(fabric.switches[i].wwn);
     }
   }
   for (size_t i = 0; i < fabric.vsans.size(); ++i) {
-    if (auto problem = problem_of_vsan(fabric, fabric.vsans[i])) return problem;
+    if (auto problem = problem_of(fabric, fabric.vsans[i])) return problem;
     if (i > 0 && fabric.vsans[i].number == fabric.vsans[i - 1].number) {
       return "two VSANs with the number " + std::to_string(fabric.vsans[i].number);
     }

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace switch_sim {
@@ -97,6 +98,9 @@ void sort(Fabric& fabric);
 // What a sorted fabric breaks of the rules above (limits, duplicates, unknown switches), or
 // nothing.
 std::optional<std::string> problem_of(const Fabric& fabric);
+
+// True for what may be a name: UTF-8 of one line, not empty.
+bool is_name(std::string_view text);
 
 // Look-ups in a sorted fabric; null when there is none.
 const Switch* find_switch(const Fabric& fabric, const Wwn& wwn);

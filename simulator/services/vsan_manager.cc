@@ -29,12 +29,6 @@ bool is_one_or_two(uint32_t value) {
   return value == 1 || value == 2;
 }
 
-bool is_vsan_name(const std::optional<std::string>& name) {
-  return name && !name->empty() && std::all_of(name->begin(), name->end(), [](char character) {
-           return static_cast<unsigned char>(character) >= 0x20 && character != 0x7F;
-         });
-}
-
 // A set takes over the administrative state, the name and the load balancing. The operational state
 // is never set: it follows the administrative one.
 Outcome set_entry(const RequestReader& request, Fabric& fabric) {
@@ -45,7 +39,7 @@ Outcome set_entry(const RequestReader& request, Fabric& fabric) {
   const auto vsan = std::find_if(fabric.vsans.begin(), fabric.vsans.end(),
                                  [&](const Vsan& known) { return known.number == number; });
   if (vsan == fabric.vsans.end()) return refuse(status::kNotFound);
-  if (!is_one_or_two(state) || !is_one_or_two(load_balancing) || !is_vsan_name(name)) {
+  if (!is_one_or_two(state) || !is_one_or_two(load_balancing) || !name || !is_name(*name)) {
     return refuse(status::kBadValue);
   }
   vsan->state = static_cast<VsanState>(state);

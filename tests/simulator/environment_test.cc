@@ -36,7 +36,7 @@ TEST_F(EnvironmentDeathTest, ATraceFileThatCannotBeOpenedRefusesEveryRequest) {
         _exit(refused ? 0 : 1);
       },
       testing::ExitedWithCode(0),
-      "^switch simulator: SWITCH_SIM_TRACE=/nonexistent/folder/trace: No such file or directory; "
+      "^switch simulator: SWITCH_SIM_TRACE: /nonexistent/folder/trace: No such file or directory; "
       "every request is refused\n$");
 }
 
@@ -53,6 +53,75 @@ TEST_F(EnvironmentDeathTest, TheTraceFileGetsOneLinePerMessage) {
       "reply token=1 status=0 errno=0 after_ms=0 body=2000000dec0a1b2c\n",
       text.str());
   remove(path.c_str());
+}
+
+std::string temporary(const char* name) {
+  return testing::TempDir() + "simulator_environment_" + std::to_string(getuid()) + "_" + name;
+}
+
+void write(const std::string& path, const std::string& text) {
+  std::ofstream(path) << text;
+}
+
+constexpr const char* kSmallFabric = R"({"version": 1, "local_switch": "a",
+"switches": [{"name": "a", "wwn": "20:00:00:00:00:00:00:01"}], "vsans": []})";
+
+TEST_F(EnvironmentDeathTest, AFabricFileIsAnsweredFrom) {
+  const std::string path = temporary("fabric");
+  write(path, kSmallFabric);
+  setenv("SWITCH_SIM_FABRIC", path.c_str(), 1);
+  EXPECT_EXIT(
+      _exit(query_switch_wwn() == 0 && switch_sim::control::fabric().switches.size() == 1 ? 0 : 1),
+      testing::ExitedWithCode(0), "^$");
+  unsetenv("SWITCH_SIM_FABRIC");
+  remove(path.c_str());
+}
+
+TEST_F(EnvironmentDeathTest, AWrongFabricFileIsToldOnceAndRefusesEveryRequest) {
+  const std::string path = temporary("wrong_fabric");
+  write(path, "{\n  \"vsns\": []}");
+  setenv("SWITCH_SIM_FABRIC", path.c_str(), 1);
+  EXPECT_EXIT(
+      _exit(query_switch_wwn() == kFabricNotUsable && query_switch_wwn() == kFabricNotUsable ? 0
+                                                                                             : 1),
+      testing::ExitedWithCode(0),
+      "^switch simulator: SWITCH_SIM_FABRIC: " + path +
+          ":2:3: unknown key \"vsns\" .did you mean \"vsans\"..; every request is "
+          "refused\n$");
+  unsetenv("SWITCH_SIM_FABRIC");
+  remove(path.c_str());
+}
+
+TEST_F(EnvironmentDeathTest, AnInstalledFabricEndsWhatWasWrongWithTheEnvironment) {
+  setenv("SWITCH_SIM_FABRIC", "/nonexistent/fabric.json", 1);
+  EXPECT_EXIT(
+      {
+        const bool refused = query_switch_wwn() == kFabricNotUsable;
+        switch_sim::control::install(switch_sim::default_fabric());
+        _exit(refused && query_switch_wwn() == 0 ? 0 : 1);
+      },
+      testing::ExitedWithCode(0), "No such file or directory");
+  unsetenv("SWITCH_SIM_FABRIC");
+}
+
+TEST_F(EnvironmentDeathTest, AStateFileIsTakenBeforeTheFabricFile) {
+  const std::string path = temporary("state");
+  write(path, kSmallFabric);
+  setenv("SWITCH_SIM_STATE", path.c_str(), 1);
+  setenv("SWITCH_SIM_FABRIC", "", 1);
+  EXPECT_EXIT(_exit(switch_sim::control::fabric().switches.at(0).name == "a" ? 0 : 1),
+              testing::ExitedWithCode(0), "^$");
+  unsetenv("SWITCH_SIM_STATE");
+  unsetenv("SWITCH_SIM_FABRIC");
+  remove(path.c_str());
+}
+
+TEST_F(EnvironmentDeathTest, AStateFileThatCannotBeMadeRefusesEveryRequest) {
+  setenv("SWITCH_SIM_STATE", "/nonexistent/state.json", 1);
+  EXPECT_EXIT(_exit(query_switch_wwn() == kFabricNotUsable ? 0 : 1), testing::ExitedWithCode(0),
+              "^switch simulator: SWITCH_SIM_STATE: /nonexistent/state.json: No such file or "
+              "directory; every request is refused\n$");
+  unsetenv("SWITCH_SIM_STATE");
 }
 
 }  // namespace

@@ -71,7 +71,7 @@ INSTANTIATE_TEST_SUITE_P(
                    [](Fabric& f) { f.switches[1].name = ""; }},
         BrokenRule{"switch 20:00:00:0d:ec:0a:1b:5e: the name is too long",
                    [](Fabric& f) { f.switches[1].name = std::string(256, 'a'); }},
-        BrokenRule{"switch 20:00:00:0d:ec:0a:1b:5e: the name holds a control character",
+        BrokenRule{"switch 20:00:00:0d:ec:0a:1b:5e: the name is not UTF-8 of one line",
                    [](Fabric& f) { f.switches[1].name = "a\tb"; }},
         BrokenRule{"switch 20:00:00:0d:ec:0a:1b:5e: a system text is too long",
                    [](Fabric& f) { f.switches[1].system.contact = std::string(1024, 'a'); }},
@@ -89,7 +89,7 @@ INSTANTIATE_TEST_SUITE_P(
         BrokenRule{"VSAN 1: the name is empty", [](Fabric& f) { f.vsans[0].name = ""; }},
         BrokenRule{"VSAN 1: the name is too long",
                    [](Fabric& f) { f.vsans[0].name = std::string(128, 'a'); }},
-        BrokenRule{"VSAN 1: the name holds a control character",
+        BrokenRule{"VSAN 1: the name is not UTF-8 of one line",
                    [](Fabric& f) { f.vsans[0].name = "\x7f"; }},
         BrokenRule{
             "VSAN 1: two domain managers of 20:00:00:0d:ec:0a:1b:2c",

@@ -4,10 +4,10 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
+#include <cctype>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <regex>
 #include <set>
 #include <sstream>
 #include <string>
@@ -22,17 +22,38 @@ std::string read(const std::filesystem::path& path) {
   return text.str();
 }
 
-// Every function that a header of interfaces/platform declares.
+// A header without comments and preprocessor lines.
+std::string declarations_of(const std::filesystem::path& path) {
+  std::string text = read(path);
+  for (size_t start; (start = text.find("/*")) != std::string::npos;) {
+    text.erase(start, text.find("*/", start) + 2 - start);
+  }
+  std::string declarations;
+  std::stringstream lines(text);
+  for (std::string line; std::getline(lines, line);) {
+    if (!line.starts_with('#')) declarations += line + '\n';
+  }
+  return declarations;
+}
+
+bool is_of_name(char character) {
+  return isalnum(static_cast<unsigned char>(character)) != 0 || character == '_';
+}
+
+// Every function that a header of interfaces/platform declares: the name before the first
+// parenthesis of a statement.
 std::set<std::string> declared_functions() {
   std::set<std::string> names;
-  const std::regex comment(R"(/\*[^*]*\*+([^/*][^*]*\*+)*/)");
-  const std::regex declaration(R"((\w+)\s*\([^()]*(\([^()]*\)[^()]*)*\)\s*;)");
   for (const auto& entry : std::filesystem::directory_iterator(
            std::string(CIM_SOURCE_DIR) + "/interfaces/platform/switch_platform")) {
-    const std::string text = std::regex_replace(read(entry.path()), comment, "");
-    for (std::sregex_iterator match(text.begin(), text.end(), declaration), end; match != end;
-         ++match) {
-      names.insert((*match)[1]);
+    std::stringstream statements(declarations_of(entry.path()));
+    for (std::string statement; std::getline(statements, statement, ';');) {
+      const size_t end = statement.find('(');
+      if (end == std::string::npos) continue;
+      size_t start = end;
+      while (start > 0 && is_of_name(statement[start - 1]))
+        --start;
+      names.insert(statement.substr(start, end - start));
     }
   }
   return names;

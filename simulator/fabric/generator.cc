@@ -1,0 +1,214 @@
+#include "simulator/fabric/generator.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdio>
+#include <numeric>
+#include <set>
+
+#include "simulator/fabric/suggestion.h"
+
+namespace switch_sim {
+namespace {
+
+struct Parameter {
+  std::string_view name;
+  uint64_t least;
+  uint64_t most;
+  uint64_t value;
+  bool given = false;
+};
+
+constexpr size_t kSwitches = 0;
+constexpr size_t kVsans = 2;
+constexpr size_t kSeed = 4;
+
+using Parameters = std::array<Parameter, 5>;
+
+constexpr Parameters kDefaults = {{
+    {"switches", 1, kLargestDomainId, 3},
+    {"ports", 0, 255, 0},  // of each switch
+    {"vsans", 0, kLargestVsan, 2},
+    {"devices", 0, 100000, 0},
+    {"seed", 0, UINT64_MAX, 1},
+}};
+
+std::string in_quotes(std::string_view text) {
+  return '"' + std::string(text) + '"';
+}
+
+// Reads one "name=number"; an error text when it is none.
+std::string read_parameter(std::string_view item, Parameters& parameters) {
+  const size_t equals = item.find('=');
+  if (equals == std::string_view::npos) {
+    return "expected a name, \"=\" and a number, found " + in_quotes(item);
+  }
+  const std::string_view name = item.substr(0, equals);
+  const std::string_view number = item.substr(equals + 1);
+  const auto parameter =
+      std::find_if(parameters.begin(), parameters.end(),
+                   [&](const Parameter& candidate) { return candidate.name == name; });
+  if (parameter == parameters.end()) {
+    std::array<std::string_view, std::tuple_size_v<Parameters>> names;
+    std::transform(parameters.begin(), parameters.end(), names.begin(),
+                   [](const Parameter& known) { return known.name; });
+    return "unknown key " + in_quotes(name) + suggestion(name, names);
+  }
+  if (parameter->given) return "key " + in_quotes(name) + " is given twice";
+  const char* end = number.data() + number.size();
+  const auto [next, error] = std::from_chars(number.data(), end, parameter->value);
+  if (error != std::errc{} || next != end || parameter->value < parameter->least ||
+      parameter->value > parameter->most) {
+    return std::string(name) + ": expected a whole number from " +
+           std::to_string(parameter->least) + " to " + std::to_string(parameter->most) +
+           ", found " + in_quotes(number);
+  }
+  parameter->given = true;
+  return "";
+}
+
+std::string read_parameters(std::string_view description, Parameters& parameters) {
+  for (;;) {
+    const size_t comma = description.find(',');
+    std::string problem = read_parameter(description.substr(0, comma), parameters);
+    if (!problem.empty() || comma == std::string_view::npos) return problem;
+    description.remove_prefix(comma + 1);
+  }
+}
+
+// The splitmix64 sequence: the same on every machine, unlike the standard distributions.
+class Random {
+ public:
+  explicit Random(uint64_t seed) : state_(seed) {}
+
+  uint64_t next() {
+    state_ += 0x9E3779B97F4A7C15U;
+    uint64_t value = state_;
+    value = (value ^ value >> 30) * 0xBF58476D1CE4E5B9U;
+    value = (value ^ value >> 27) * 0x94D049BB133111EBU;
+    return value ^ value >> 31;
+  }
+
+  // 0 to count - 1.
+  uint64_t below(uint64_t count) { return next() % count; }
+
+  bool one_in(uint64_t count) { return below(count) == 0; }
+
+ private:
+  uint64_t state_;
+};
+
+std::string numbered(const char* format, unsigned number) {
+  char text[32];
+  snprintf(text, sizeof text, format, number);
+  return text;
+}
+
+Switch make_switch(unsigned index, uint32_t first_serial, Random& random) {
+  // Serial numbers stand apart as those of real switches do, which number their ports in between.
+  const uint32_t serial = (first_serial + index * 0x40) & 0xFFFFFF;
+  Switch made;
+  made.name = numbered("switch-%u", index + 1);
+  made.wwn = {{0x20, 0x00, 0x00, 0x0D, 0xEC, static_cast<uint8_t>(serial >> 16),
+               static_cast<uint8_t>(serial >> 8), static_cast<uint8_t>(serial)}};
+  if (random.one_in(4)) {
+    made.address.family = IpAddress::Family::ipv6;
+    made.address.bytes = {0x20, 0x01, 0x0D, 0xB8};
+    made.address.bytes[15] = static_cast<uint8_t>(index + 1);
+  } else {
+    made.address.bytes = {198, 51, 100, static_cast<uint8_t>(index + 1)};
+  }
+  made.system.contact = "storage-team@example.com";
+  const auto row = static_cast<unsigned>(random.below(8)) + 1;
+  const auto rack = static_cast<unsigned>(random.below(40)) + 1;
+  made.system.location = numbered("Row %u, rack ", row) + std::to_string(rack);
+  made.system.description = "Simulated Fibre Channel switch";
+  made.system.software_version = random.one_in(3) ? "3.2(1)" : "3.1(2a)";
+  made.system.object_id = {1, 3, 6, 1, 4, 1, 8, 5};
+  made.system.uptime_hundredths = static_cast<uint32_t>(random.below(100000000));
+  return made;
+}
+
+// `count` different VSAN numbers, 1 among them, rising.
+std::vector<uint32_t> choose_vsans(size_t count, Random& random) {
+  std::vector<uint32_t> numbers(kLargestVsan);
+  std::iota(numbers.begin(), numbers.end(), 1U);
+  for (size_t i = 1; i < count; ++i) {
+    std::swap(numbers[i], numbers[i + random.below(numbers.size() - i)]);
+  }
+  numbers.resize(count);
+  std::sort(numbers.begin(), numbers.end());
+  return numbers;
+}
+
+DomainManager make_domain(const Wwn& switch_wwn, uint8_t domain_id, Random& random) {
+  static constexpr std::array<uint8_t, 4> kPriorities = {1, 2, 128, 254};
+  DomainManager made;
+  made.switch_wwn = switch_wwn;
+  made.domain_id = domain_id;
+  made.configured_domain_id = domain_id;
+  made.configured_type = random.one_in(4) ? DomainType::static_id : DomainType::preferred;
+  made.configured_priority = kPriorities[random.below(kPriorities.size())];
+  return made;
+}
+
+void choose_principal(Vsan& vsan) {
+  const DomainManager* best = nullptr;
+  for (const DomainManager& domain : vsan.domains) {
+    if (!domain.enabled) continue;
+    if (best == nullptr || domain.configured_priority < best->configured_priority) best = &domain;
+  }
+  if (best != nullptr) vsan.principal_switch = best->switch_wwn;
+}
+
+// VSAN 1 is up and holds every switch; others may be suspended, miss switches, or have no domain
+// manager on the local switch.
+Vsan make_vsan(uint32_t number, const Fabric& fabric, Random& random) {
+  Vsan made;
+  made.number = number;
+  made.name = numbered("VSAN%04u", number);
+  made.load_balancing = random.one_in(2) ? LoadBalancing::source_destination
+                                         : LoadBalancing::source_destination_exchange;
+  if (number != 1 && random.one_in(8)) made.state = VsanState::suspended;
+
+  std::array<uint8_t, kLargestDomainId> domain_ids;
+  std::iota(domain_ids.begin(), domain_ids.end(), uint8_t{1});
+  size_t used = 0;
+  for (const Switch& member : fabric.switches) {
+    const bool is_local = member.wwn == fabric.local_switch;
+    if (number != 1 && !is_local && random.one_in(4)) continue;
+    std::swap(domain_ids[used], domain_ids[used + random.below(domain_ids.size() - used)]);
+    DomainManager domain = make_domain(member.wwn, domain_ids[used++], random);
+    if (number != 1 && is_local && random.one_in(16)) {
+      domain.enabled = false;
+      domain.domain_id = 0;
+    }
+    made.domains.push_back(domain);
+  }
+  choose_principal(made);
+  return made;
+}
+
+}  // namespace
+
+ReadFabric generate_fabric(std::string_view description) {
+  Parameters parameters = kDefaults;
+  std::string problem = read_parameters(description, parameters);
+  if (!problem.empty()) return FabricError{std::move(problem)};
+
+  Random random(parameters[kSeed].value);
+  Fabric fabric;
+  const auto first_serial = static_cast<uint32_t>(random.below(0x1000000));
+  for (unsigned i = 0; i < parameters[kSwitches].value; ++i) {
+    fabric.switches.push_back(make_switch(i, first_serial, random));
+  }
+  fabric.local_switch = fabric.switches.front().wwn;
+  sort(fabric);
+  for (const uint32_t number : choose_vsans(parameters[kVsans].value, random)) {
+    fabric.vsans.push_back(make_vsan(number, fabric, random));
+  }
+  return fabric;
+}
+
+}  // namespace switch_sim
