@@ -133,7 +133,34 @@ struct Table {
   }
 };
 
+// Freed blocks keep their address for a while: the last of them, in the order of their freeing.
+struct FreedBlocks {
+  static constexpr size_t kMostBlocks = 8192;
+  static constexpr size_t kMostBytes = 32 << 20;
+  uintptr_t hidden[kMostBlocks] = {};
+  size_t sizes[kMostBlocks] = {};
+  size_t first = 0;
+  size_t count = 0;
+  size_t bytes = 0;
+
+  bool full() const { return count == kMostBlocks || (bytes > kMostBytes && count > 1); }
+  void push(const Block& block) {
+    size_t at = (first + count++) % kMostBlocks;
+    hidden[at] = block.hidden;
+    sizes[at] = block.size;
+    bytes += block.size;
+  }
+  void* pop() {
+    void* oldest = reinterpret_cast<void*>(~hidden[first]);
+    bytes -= sizes[first];
+    first = (first + 1) % kMostBlocks;
+    --count;
+    return oldest;
+  }
+};
+
 constinit Table table;
+constinit FreedBlocks freed_blocks;
 constinit HeapLedger* active = nullptr;
 constinit uint32_t last_scope = 0;
 constinit thread_local int pauses = 0;
@@ -215,6 +242,46 @@ const char* giver_back(Maker maker) {
   return "";
 }
 
+bool is_filled(const uint8_t* bytes, size_t size) {
+  return size == 0 || (bytes[0] == kFreedFill && memcmp(bytes, bytes + 1, size - 1) == 0);
+}
+
+// Gives a freed block, no longer in the table, back to the heap.
+void end_freed_block(const Block& block) {
+  auto* bytes = static_cast<uint8_t*>(address_of(block));
+  LEDGER_SHOW(bytes, block.size);
+  if (!kSanitizerWatchesFreedBlocks && !is_filled(bytes, block.size)) {
+    complain("written after it was freed", &block);
+  }
+  __real_free(block.label);
+  __real_free(bytes);
+}
+
+// Takes a freed block out of the table; the result owns its label.
+Block take_freed(Block* block) {
+  Block taken = *block;
+  block->label = nullptr;
+  table.erase(block);
+  return taken;
+}
+
+// Keeps one more freed block, at the cost of the oldest ones.
+void keep_freed_block(const Block& freed) {
+  for (;;) {
+    Block oldest{};
+    {
+      std::lock_guard lock(table.mutex);
+      if (!freed_blocks.full()) {
+        freed_blocks.push(freed);
+        return;
+      }
+      Block* block = table.find(freed_blocks.pop());
+      if (block != nullptr && block->state == State::freed) oldest = take_freed(block);
+    }
+    if (oldest.state == State::freed) end_freed_block(oldest);
+  }
+}
+
 void release(void* p, Maker maker) {
   if (p == nullptr) return;
   int error_number = errno;  // giving back never changes it
@@ -245,6 +312,7 @@ void release(void* p, Maker maker) {
     }
     memset(p, kFreedFill, seen.size);
     LEDGER_HIDE(p, seen.size);
+    keep_freed_block(seen);
   }
   errno = error_number;
 }
@@ -283,20 +351,9 @@ std::vector<Block> collect(Wanted wanted, Then then) {
 void end_freed_blocks(uint32_t scope) {
   std::vector<Block> freed = collect(
       [scope](const Block& block) { return block.state == State::freed && block.scope == scope; },
-      [](Block& block) {
-        block.label = nullptr;  // the copy owns it now
-        table.erase(&block);
-      });
-  for (const Block& block : freed) {
-    auto* bytes = static_cast<uint8_t*>(address_of(block));
-    LEDGER_SHOW(bytes, block.size);
-    if (!kSanitizerWatchesFreedBlocks &&
-        std::any_of(bytes, bytes + block.size, [](uint8_t b) { return b != kFreedFill; })) {
-      complain("written after it was freed", &block);
-    }
-    __real_free(block.label);
-    __real_free(bytes);
-  }
+      [](Block& block) { take_freed(&block); });
+  for (const Block& block : freed)
+    end_freed_block(block);
 }
 
 std::vector<Block> live_and_not_told(uint32_t Block::*group, uint32_t value) {

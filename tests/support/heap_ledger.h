@@ -9,7 +9,8 @@
 //  - what is allocated is counted and can be made to fail,
 //  - a second free, a free of what is no heap block, and a block that goes back by the wrong
 //    function (free for new, delete for malloc) fail the test,
-//  - a freed block keeps its address until the ledger ends; writing into it fails the test,
+//  - a freed block keeps its address until the ledger ends (or many blocks later), so that a second
+//    free is told for certain; writing into it meanwhile fails the test,
 //  - at its end every block allocated during its life must have been freed.
 #ifndef TESTS_SUPPORT_HEAP_LEDGER_H
 #define TESTS_SUPPORT_HEAP_LEDGER_H

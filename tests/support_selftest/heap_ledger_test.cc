@@ -5,6 +5,7 @@
 #include <malloc.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
@@ -273,6 +274,24 @@ TEST(HeapLedger, ManyBlocksAreKept) {
   EXPECT_EQ(ledger.outstanding(), 20001u);
   for (void* block : blocks)
     free(block);
+}
+
+size_t resident_bytes() {
+  long total = 0;
+  long resident = 0;
+  FILE* file = fopen("/proc/self/statm", "r");
+  if (file == nullptr) return 0;
+  if (fscanf(file, "%ld %ld", &total, &resident) != 2) resident = 0;
+  fclose(file);
+  return static_cast<size_t>(resident) * 4096;
+}
+
+TEST(HeapLedger, FreedBlocksAreNotKeptWithoutEnd) {
+  HeapLedger ledger;
+  size_t before = resident_bytes();
+  for (int i = 0; i < 30000; ++i)
+    free(seen(malloc(30000)));
+  EXPECT_LT(resident_bytes() - before, size_t{400} << 20);  // of 900 MB that were freed
 }
 
 // Two C blocks and a string; cleans up after itself on every path.
