@@ -105,7 +105,7 @@ int maker_if_index(uint32_t* if_index, const uint8_t* port_wwn, bool iscsi) {
   if (port_wwn[0] == (kNaa2 | kPortChannelBit)) {
     return if_index_port_channel_init(if_index, static_cast<uint32_t>(port_wwn[1] - 1));
   }
-  if (port_wwn[0] == kNaa10) return kFailed;
+  if (port_wwn[0] == kNaa10) return kFailed;  // kept, though such a WWN has no vendor
   int port = port_wwn[1] & 0x3F;
   if (iscsi) {
     port >>= 2;
