@@ -82,4 +82,14 @@ class PegasusBuilder final : public model::Builder {
 Pegasus::CIMObjectPath to_pegasus(model::Ref ref);
 Pegasus::CIMInstance to_pegasus(model::Object object);
 
+// An association of two given references, under the two role names.
+Pegasus::CIMObjectPath association_reference(const char* cls, const Pegasus::String& ns,
+                                             const Pegasus::CIMObjectPath& first,
+                                             const Pegasus::CIMObjectPath& second,
+                                             const char* first_role, const char* second_role);
+Pegasus::CIMInstance association_instance(const char* cls, const Pegasus::String& ns,
+                                          const Pegasus::CIMObjectPath& first,
+                                          const Pegasus::CIMObjectPath& second,
+                                          const char* first_role, const char* second_role);
+
 }  // namespace cim_utils

@@ -21,6 +21,7 @@
 #include <Pegasus/Common/String.h>
 #include <Pegasus/Provider/CIMOMHandle.h>
 #include <cim_utils/export.h>
+#include <cim_utils/fabric_configuration.h>
 #include <switch_platform/records_domain_manager.h>
 #include <switch_platform/records_vsan.h>
 
@@ -49,6 +50,58 @@ class CIM_UTILS_EXPORT ProviderUtil {
 
   // An array whose only element is `value`.
   static Pegasus::Array<Pegasus::Uint16> convert_uint_to_array(Pegasus::Uint16 value);
+
+  // The own switch, named by ComputerSystem::getName() on this class's queue.
+  static Pegasus::CIMObjectPath switch_fill_reference(const char* className,
+                                                      const Pegasus::String& nameSpace);
+  static Pegasus::CIMInstance switch_build_instance(const char* className,
+                                                    const Pegasus::String& nameSpace);
+  static Pegasus::CIMObject switch_build_object(const char* className,
+                                                const Pegasus::String& nameSpace);
+
+  // A switch by the text of its WWN, or its WWN; remote is zero for the own switch. Asks the domain
+  // manager for VSAN 1, without which "ElementName", "PrimarySwitch", "IPAddress", "EnabledState"
+  // and "OtherIdentifyingInfo" are left out. The name of another switch is asked on the queue of
+  // the CMPI face (get_remote_switchname), and left out while that is unbound.
+  static Pegasus::CIMObjectPath switch_fill_reference(const char* className,
+                                                      const Pegasus::String& nameSpace,
+                                                      const char* wwnText);
+  static Pegasus::CIMInstance switch_build_instance(const char* className,
+                                                    const Pegasus::String& nameSpace,
+                                                    const char* wwnText, unsigned char remote);
+  static Pegasus::CIMObject switch_build_object(const char* className,
+                                                const Pegasus::String& nameSpace,
+                                                const char* wwnText, unsigned char remote);
+  static Pegasus::CIMObjectPath switch_fill_reference(const char* className,
+                                                      const Pegasus::String& nameSpace, wwn_* wwn);
+  static Pegasus::CIMInstance switch_build_instance(const char* className,
+                                                    const Pegasus::String& nameSpace, wwn_* wwn,
+                                                    unsigned char remote);
+  static Pegasus::CIMObject switch_build_object(const char* className,
+                                                const Pegasus::String& nameSpace, wwn_* wwn,
+                                                unsigned char remote);
+
+  // A switch as the fabric configuration server sees it.
+  static Pegasus::CIMObjectPath switch_fill_reference(const char* className,
+                                                      const Pegasus::String& nameSpace,
+                                                      fcs_cim_ie_* element);
+  static Pegasus::CIMInstance switch_build_instance(const char* className,
+                                                    const Pegasus::String& nameSpace,
+                                                    fcs_cim_ie_* element);
+  static Pegasus::CIMObject switch_build_object(const char* className,
+                                                const Pegasus::String& nameSpace,
+                                                fcs_cim_ie_* element);
+
+  // A switch from the domain manager's list.
+  static Pegasus::CIMObjectPath switch_fill_reference(const char* className,
+                                                      const Pegasus::String& nameSpace,
+                                                      mts_dm_sw_dom_list_info_* entry);
+  static Pegasus::CIMInstance switch_build_instance(const char* className,
+                                                    const Pegasus::String& nameSpace,
+                                                    mts_dm_sw_dom_list_info_* entry);
+  static Pegasus::CIMObject switch_build_object(const char* className,
+                                                const Pegasus::String& nameSpace,
+                                                mts_dm_sw_dom_list_info_* entry);
 
   // The fabric, named by the domain manager's WWN of VSAN 1 or, without that, "PHYSICAL_FABRIC".
   static Pegasus::CIMObjectPath fabric_fill_reference(const char* className,
@@ -82,6 +135,36 @@ class CIM_UTILS_EXPORT ProviderUtil {
                                                           const Pegasus::String& nameSpace,
                                                           vsanNewEntry_t* vsan,
                                                           mts_dm_sw_conf_* swConf);
+
+  // A part of a whole, by two references: "GroupComponent", "PartComponent".
+  static Pegasus::CIMObjectPath component_fill_reference(const char* className,
+                                                         const Pegasus::String& nameSpace,
+                                                         const Pegasus::CIMObjectPath& groupRef,
+                                                         const Pegasus::CIMObjectPath& partRef);
+  static Pegasus::CIMInstance component_build_instance(const char* className,
+                                                       const Pegasus::String& nameSpace,
+                                                       const Pegasus::CIMObjectPath& groupRef,
+                                                       const Pegasus::CIMObjectPath& partRef);
+  static Pegasus::CIMObject component_build_object(const char* className,
+                                                   const Pegasus::String& nameSpace,
+                                                   const Pegasus::CIMObjectPath& groupRef,
+                                                   const Pegasus::CIMObjectPath& partRef);
+
+  // A switch, by its interconnect element, in a VSAN.
+  static Pegasus::CIMObjectPath component_fill_reference(const char* className,
+                                                         const Pegasus::String& nameSpace,
+                                                         vsanNewEntry_t* vsan,
+                                                         mts_dm_sw_conf_* swConf,
+                                                         fcs_cim_ie_* element);
+  static Pegasus::CIMInstance component_build_instance(const char* className,
+                                                       const Pegasus::String& nameSpace,
+                                                       vsanNewEntry_t* vsan,
+                                                       mts_dm_sw_conf_* swConf,
+                                                       fcs_cim_ie_* element);
+  static Pegasus::CIMObject component_build_object(const char* className,
+                                                   const Pegasus::String& nameSpace,
+                                                   vsanNewEntry_t* vsan, mts_dm_sw_conf_* swConf,
+                                                   fcs_cim_ie_* element);
 };
 
 // Assigns to `property` a new one with the given name and an array whose only element is `value`,
