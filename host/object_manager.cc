@@ -62,6 +62,13 @@ void fill_in_namespace(std::string_view name_space, ObjectPath& path) {
   if (path.name_space.empty()) path.name_space = name_space;
 }
 
+/// The path of an instance of this manager: in the namespace that was asked, without the host that
+/// some providers put in.
+void make_local(std::string_view name_space, ObjectPath& path) {
+  fill_in_namespace(name_space, path);
+  path.host.clear();
+}
+
 [[noreturn]] void not_served(const schema::Class& cls) {
   throw CimError(CMPI_RC_ERR_NOT_SUPPORTED, cls.name + ": no provider serves this class");
 }
@@ -87,7 +94,10 @@ void call_provider(const schema::Class& cls, Call&& call) {
     throw CimError(CMPI_RC_ERR_FAILED,
                    cls.name + ": the provider failed: " + std::string(error.what()));
   }
-  if (status.rc != CMPI_RC_OK) throw CimError(status.rc, cls.name + ": " + status_text(status));
+  if (status.rc == CMPI_RC_OK) return;
+  const std::string text = status_text(status);
+  const bool says_which = text.find(cls.name) != std::string::npos;
+  throw CimError(status.rc, says_which ? text : cls.name + ": " + text);
 }
 
 }  // namespace
@@ -315,7 +325,7 @@ std::vector<Instance> ObjectManager::enumerate_instances(std::string_view name_s
     std::move(returned.instances.begin(), returned.instances.end(), std::back_inserter(all));
   });
   for (Instance& instance : all)
-    fill_in_namespace(name_space, instance.path);
+    make_local(name_space, instance.path);
   keep_only(properties, all);
   return all;
 }
@@ -335,7 +345,7 @@ std::vector<ObjectPath> ObjectManager::enumerate_instance_names(std::string_view
     std::move(returned.paths.begin(), returned.paths.end(), std::back_inserter(all));
   });
   for (ObjectPath& path : all)
-    fill_in_namespace(name_space, path);
+    make_local(name_space, path);
   return all;
 }
 
@@ -374,7 +384,7 @@ ObjectPath ObjectManager::create_instance(const Instance& instance) {
     throw CimError(CMPI_RC_ERR_FAILED,
                    cls.name + ": the provider returned no path of the new instance");
   }
-  fill_in_namespace(complete.path.name_space, returned.paths.front());
+  make_local(complete.path.name_space, returned.paths.front());
   return std::move(returned.paths.front());
 }
 

@@ -221,7 +221,13 @@ std::string to_text(const ObjectPath& path) {
 }
 
 std::string to_short_text(const ObjectPath& path) {
-  return path.class_name + keys_text(path, short_key_text);
+  ObjectPath shown = path;
+  std::erase_if(shown.keys, [&](const NamedData& key) {
+    const auto* text = std::get_if<std::string>(&key.data.element);
+    return schema::equal_names(key.name, "CreationClassName") && text != nullptr &&
+           schema::equal_names(*text, path.class_name);
+  });
+  return path.class_name + keys_text(shown, short_key_text);
 }
 
 ParsedPath parse_object_path(std::string_view text) {

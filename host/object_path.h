@@ -15,7 +15,8 @@ namespace cim::host {
 
 std::string to_text(const ObjectPath& path);
 
-/// `Class.Key=value,...` without quotes around texts, for a column of a table.
+/// `Class.Key=value,...` for a column of a table: without quotes around texts, and without a key
+/// CreationClassName that only repeats the class.
 std::string to_short_text(const ObjectPath& path);
 
 struct ParsedPath {

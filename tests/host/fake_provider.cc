@@ -131,7 +131,7 @@ CMPIStatus return_disks(const CMPIResult* result, const CMPIObjectPath* op, cons
     const CMPIStatus status = names != wrong
                                   ? result->ft->returnObjectPath(result, disk_path(op, cls, id))
                                   : result->ft->returnInstance(result, disk(op, cls, id));
-    control.last_return_status = status.rc;
+    if (control.mode != FakeMode::sets_wrong_type) control.last_return_status = status.rc;
   }
   result->ft->returnDone(result);
   if (control.mode == FakeMode::returns_after_done) {
