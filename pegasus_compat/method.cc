@@ -1,6 +1,7 @@
 #include <Pegasus/Common/CIMMethod.h>
 
 #include <memory>
+#include <utility>
 
 #include "pegasus_compat/reps.h"
 
@@ -33,9 +34,8 @@ CIMMethodRep* CIMMethodRep::clone(bool withQualifiers, bool withClassOrigin) con
   copy->propagated = propagated;
   if (withQualifiers) copy->qualifiers = qualifiers.clone();
   for (const CIMParameter& parameter : parameters) {
-    copy->parameters.add(
-        RepAccess::own<CIMParameter>(RepAccess::checked(parameter).clone(withQualifiers)),
-        "parameter");
+    copy->parameters.append(
+        RepAccess::own<CIMParameter>(RepAccess::checked(parameter).clone(withQualifiers)));
   }
   return copy.release();
 }
@@ -317,8 +317,8 @@ Boolean CIMConstMethod::isUninitialized() const {
 CIMParamValue::CIMParamValue() = default;
 CIMParamValue::CIMParamValue(String parameterName, CIMValue value, Boolean isTyped)
     : CIMParamValue(new CIMParamValueRep) {
-  _rep->name = parameterName;
-  _rep->value = value;
+  _rep->name = std::move(parameterName);
+  _rep->value = std::move(value);
   _rep->isTyped = isTyped;
 }
 

@@ -147,7 +147,7 @@ class Parser {
   }
 
   String upTo(Uint32 end) {
-    const String part = _text.subString(_next, end - _next);
+    String part = _text.subString(_next, end - _next);
     _next = end;
     return part;
   }
@@ -249,8 +249,9 @@ bool sameValue(CIMKeyBinding::Type type, const String& x, const String& y) {
     case CIMKeyBinding::REFERENCE: {
       CIMObjectPathRep path;
       CIMObjectPathRep other;
-      const bool both = Parser(x, path).parse() && Parser(y, other).parse();
-      return both ? samePath(path, other) : String::equal(x, y);
+      const bool readable = Parser(x, path).parse();
+      if (!readable || !Parser(y, other).parse()) return String::equal(x, y);
+      return samePath(path, other);
     }
     case CIMKeyBinding::STRING:
       break;
@@ -311,7 +312,8 @@ String quoted(const String& text) {
   result.append(Char16('"'));
   const Char16* data = text.getChar16Data();
   for (Uint32 i = 0; i < text.size(); ++i) {
-    if (data[i] == '"' || data[i] == '\\') result.append(Char16('\\'));
+    const Uint16 c = data[i];
+    if (c == '"' || c == '\\') result.append(Char16('\\'));
     result.append(data[i]);
   }
   result.append(Char16('"'));
@@ -343,6 +345,7 @@ void CIMKeyBinding::setType(Type type) {
   _type = type;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the interface has it so
 Boolean CIMKeyBinding::equal(CIMValue value) {
   const bool embedded = value.getType() == CIMTYPE_OBJECT || value.getType() == CIMTYPE_INSTANCE;
   if (value.isArray() || value.isNull() || embedded || keyType(value) != _type) return false;

@@ -42,7 +42,7 @@ CIMClass selected(const CIMObjectRep& whole, const Wanted& wanted) {
   if (wanted.qualifiers) {
     for (const CIMQualifier& qualifier : whole.qualifiers) {
       if (wanted.inherited || qualifier.getPropagated() == 0) {
-        part.qualifiers.add(qualifier.clone(), "qualifier");
+        part.qualifiers.append(qualifier.clone());
       }
     }
   }
@@ -50,14 +50,14 @@ CIMClass selected(const CIMObjectRep& whole, const Wanted& wanted) {
     const CIMPropertyRep& rep = RepAccess::checked(property);
     const bool local = wanted.inherited || !rep.propagated;
     if (!local || !wanted.properties.useThisProperty(rep.name)) continue;
-    part.properties.add(
-        RepAccess::own<CIMProperty>(rep.clone(wanted.qualifiers, wanted.classOrigin)), "property");
+    part.properties.append(
+        RepAccess::own<CIMProperty>(rep.clone(wanted.qualifiers, wanted.classOrigin)));
   }
   for (const CIMMethod& method : whole.methods) {
     const CIMMethodRep& rep = RepAccess::checked(method);
     if (!wanted.inherited && rep.propagated) continue;
-    part.methods.add(RepAccess::own<CIMMethod>(rep.clone(wanted.qualifiers, wanted.classOrigin)),
-                     "method");
+    part.methods.append(
+        RepAccess::own<CIMMethod>(rep.clone(wanted.qualifiers, wanted.classOrigin)));
   }
   return result;
 }
@@ -79,9 +79,6 @@ void uninstallClassSource() {
 }
 
 CIMOMHandle::CIMOMHandle() = default;
-CIMOMHandle::CIMOMHandle(const CIMOMHandle& handle) = default;
-CIMOMHandle::~CIMOMHandle() = default;
-CIMOMHandle& CIMOMHandle::operator=(const CIMOMHandle& handle) = default;
 
 CIMClass CIMOMHandle::getClass(const OperationContext&, const CIMNamespaceName& nameSpace,
                                const CIMName& className, Boolean localOnly,

@@ -88,6 +88,9 @@ class NamedList {
     _items.push_back(item);
   }
 
+  // For an element of a name that the list does not have.
+  void append(const T& item) { _items.push_back(item); }
+
   void remove(Uint32 index) {
     if (index >= size()) throw IndexOutOfBoundsException();
     _items.erase(_items.begin() + static_cast<std::ptrdiff_t>(index));

@@ -189,7 +189,7 @@ void String::adopt(StringRep* rep) {
 }
 
 String& String::operator=(const String& str) noexcept {
-  adopt(retained(str._rep));
+  if (this != &str) adopt(retained(str._rep));
   return *this;
 }
 
@@ -397,7 +397,14 @@ Boolean String::equal(const String& s1, const char* s2) {
 
 Boolean String::equalNoCase(const String& s1, const String& s2) {
   if (s1._rep == s2._rep) return true;
-  return s1.size() == s2.size() && compareNoCase(s1, s2) == 0;
+  if (s1.size() != s2.size()) return false;
+  // From the end: the names of a class often begin alike.
+  const Char16* data1 = s1.getChar16Data();
+  const Char16* data2 = s2.getChar16Data();
+  for (Uint32 i = s1.size(); i > 0; --i) {
+    if (lower(data1[i - 1]) != lower(data2[i - 1])) return false;
+  }
+  return true;
 }
 
 Boolean String::equalNoCase(const String& s1, const char* s2) {

@@ -68,9 +68,13 @@ size_t encode(uint32_t character, char* out) {
 }  // namespace
 
 size_t utf16Length(const char* text, size_t n) {
+  unsigned char seen = 0;
+  for (size_t i = 0; i < n; ++i)
+    seen |= byteAt(text, i);
+  if (seen < 0x80) return n;  // nearly every text
   size_t units = 0;
   for (size_t i = 0; i < n;) {
-    const size_t length = byteAt(text, i) < 0x80 ? 1 : validSequence(text + i, n - i);
+    const size_t length = validSequence(text + i, n - i);
     if (length == 0) {
       throw Exception(String("invalid UTF-8 at byte ") + std::to_string(i).c_str());
     }
@@ -82,6 +86,10 @@ size_t utf16Length(const char* text, size_t n) {
 
 void toUtf16(const char* text, size_t n, Char16* out) {
   for (size_t i = 0; i < n;) {
+    if (byteAt(text, i) < 0x80) {
+      *out++ = byteAt(text, i++);
+      continue;
+    }
     const size_t length = sequenceLength(byteAt(text, i));
     const uint32_t character = decode(text + i, length);
     if (character < 0x10000) {

@@ -2,7 +2,8 @@
 #include <Pegasus/Common/CIMValue.h>
 #include <gtest/gtest.h>
 
-#include <clocale>
+#include <random>
+#include <string>
 
 #include "tests/pegasus_compat/support.h"
 
@@ -317,6 +318,40 @@ TEST(CIMObjectPath, SortingLeavesTheCallersArrayAlone) {
   const CIMObjectPath path(String(), CIMNamespaceName(), CIMName("A"), keys);
   EXPECT_EQ(path.getKeyBindings()[0].getName().getString(), "A");
   EXPECT_EQ(keys[0].getName().getString(), "z");
+}
+
+// Whatever a text says, it is a path that can be written and read again, or an error.
+TEST(CIMObjectPath, DamagedTextsAreReadOrRefused) {
+  const std::string whole =
+      "//host:5988/root/"
+      "cimv2:VEXOR_X.A=\"q\\\"x\\\\\",b=TRUE,C=-0x1F,d=\"root:B.k=\\\"x\\\"\",e=1.5e3";
+  const std::string characters = "/:.=\",\\@[]0x+-eBTRUEa_ \xC3\xA9";
+  std::mt19937 random(7);
+  int refused = 0;
+  int read = 0;
+  for (int round = 0; round < 20000; ++round) {
+    std::string text = whole;
+    for (unsigned change = 0; change <= random() % 3; ++change) {
+      const size_t at = random() % text.size();
+      const char other = characters[random() % characters.size()];
+      if (random() % 3 == 0) {
+        text.erase(at, 1 + random() % 5);
+      } else if (random() % 2 == 0) {
+        text.insert(at, 1, other);
+      } else {
+        text[at] = other;
+      }
+    }
+    try {
+      const CIMObjectPath path{String(text.c_str())};
+      EXPECT_TRUE(CIMObjectPath(path.toString()).identical(path)) << text;
+      ++read;
+    } catch (const Exception&) {
+      ++refused;
+    }
+  }
+  EXPECT_GT(read, 1000);
+  EXPECT_GT(refused, 1000);
 }
 
 TEST(CIMObjectPath, DeeplyNestedReferencesAreReadInBoundedTime) {

@@ -4,6 +4,9 @@
 #include <Pegasus/Common/CIMObject.h>
 #include <gtest/gtest.h>
 
+#include <thread>
+#include <vector>
+
 #include "tests/pegasus_compat/support.h"
 
 namespace {
@@ -131,6 +134,30 @@ TEST(Semantics, CopiesOfNamesAreValues) {
   CIMName copy(original);
   copy = String("b");
   EXPECT_EQ(original.getString(), "a");
+}
+
+TEST(Semantics, SeveralThreadsMayCopyOneObject) {
+  const CIMInstance instance(CIMName("VEXOR_A"));
+  const String text("shared");
+  const Array<String> array(3, text);
+  const CIMValue value(array);
+  std::vector<std::thread> threads;
+  for (int i = 0; i < 4; ++i) {
+    threads.emplace_back([&] {
+      for (int round = 0; round < 10000; ++round) {
+        const CIMInstance instanceCopy(instance);
+        String textCopy(text);
+        textCopy.append(String("x"));
+        Array<String> arrayCopy;
+        value.get(arrayCopy);
+        arrayCopy[0] = textCopy;
+      }
+    });
+  }
+  for (std::thread& thread : threads)
+    thread.join();
+  EXPECT_EQ(text, "shared");
+  EXPECT_EQ(array[0], "shared");
 }
 
 TEST(Semantics, HandlesAreOnePointerWide) {

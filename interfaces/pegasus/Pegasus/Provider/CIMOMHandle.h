@@ -21,9 +21,6 @@ inline namespace vexor_compat {
 class PEGASUS_PROVIDER_LINKAGE CIMOMHandle {
  public:
   CIMOMHandle();
-  CIMOMHandle(const CIMOMHandle& handle);
-  ~CIMOMHandle();
-  CIMOMHandle& operator=(const CIMOMHandle& handle);
 
   // The class, which the caller may change: it is not shared with the class source.
   //   localOnly            leaves out what the class inherits unchanged
