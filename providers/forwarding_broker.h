@@ -30,7 +30,7 @@ class ForwardingBroker {
   struct Shape {
     const char* const* keys = nullptr;
     const char** properties = nullptr;
-    std::span<const TypeDifference> differences;
+    std::span<const TypeDifference> differences = {};
   };
 
   ForwardingBroker(const CMPIBroker* real, const Shape& shape);

@@ -15,17 +15,17 @@ std::string contained_instance(const char* vsan) {
          vsan + "]}";
 }
 
-class Associations : public ProviderFixture {
+class ProviderAssociations : public ProviderFixture {
  protected:
-  Associations() {
+  ProviderAssociations() {
     broker_.derives("VEXOR_Vsan", "CIM_AdminDomain");
     broker_.derives("VEXOR_AdminDomain", "CIM_AdminDomain");
     broker_.derives("VEXOR_ContainedDomain", "CIM_ContainedDomain");
   }
 };
 
-TEST_F(Associations, TheFabricLeadsToItsVsans) {
-  const Answer names = associator_names(fabric_path(), {});
+TEST_F(ProviderAssociations, TheFabricLeadsToItsVsans) {
+  const Outcome names = associator_names(fabric_path(), {});
   EXPECT_EQ(names.code, CMPI_RC_OK) << names.message;
   EXPECT_EQ(names.returned.paths, (Texts{kVsan1, kVsan2}));
   EXPECT_EQ(associators(fabric_path(), {}).returned.instances,
@@ -36,7 +36,7 @@ TEST_F(Associations, TheFabricLeadsToItsVsans) {
             (Texts{contained_instance(kVsan1), contained_instance(kVsan2)}));
 }
 
-TEST_F(Associations, AVsanLeadsToItsFabric) {
+TEST_F(ProviderAssociations, AVsanLeadsToItsFabric) {
   auto* vsan = vsan_path("2002000DEC0A1B2D");
   EXPECT_EQ(associator_names(vsan, {}).returned.paths, (Texts{kFabric}));
   EXPECT_EQ(associators(vsan, {}).returned.instances, (Texts{kFabricInstance}));
@@ -44,21 +44,21 @@ TEST_F(Associations, AVsanLeadsToItsFabric) {
   EXPECT_EQ(references(vsan, {}).returned.instances, (Texts{contained_instance(kVsan2)}));
 }
 
-TEST_F(Associations, TheFabricIsComparedOnceForAllItsVsans) {
+TEST_F(ProviderAssociations, TheFabricIsComparedOnceForAllItsVsans) {
   associators(fabric_path(), {});
   EXPECT_EQ(switch_.calls(kCountOpcode), 1u);
   EXPECT_EQ(switch_.calls(kVsanOpcode), 2u);
   EXPECT_EQ(switch_.calls(kDomainOpcode), 2u + 1u);
 }
 
-TEST_F(Associations, AVsansFabricIsFoundWithoutReadingTheOtherVsans) {
+TEST_F(ProviderAssociations, AVsansFabricIsFoundWithoutReadingTheOtherVsans) {
   associator_names(vsan_path("2002000DEC0A1B2D"), {});
   EXPECT_EQ(switch_.calls(kCountOpcode), 0u);
   EXPECT_EQ(switch_.calls(kVsanOpcode), 1u);
   EXPECT_EQ(switch_.calls(kDomainOpcode), 1u + 1u);
 }
 
-TEST_F(Associations, RolesPickTheEnds) {
+TEST_F(ProviderAssociations, RolesPickTheEnds) {
   EXPECT_EQ(associator_names(fabric_path(), {.role = "groupcomponent"}).returned.paths.size(), 2u);
   EXPECT_EQ(associator_names(fabric_path(), {.role = "PartComponent"}).returned.paths.size(), 0u);
   EXPECT_EQ(associator_names(fabric_path(), {.result_role = "PARTCOMPONENT"}).returned.paths.size(),
@@ -70,7 +70,7 @@ TEST_F(Associations, RolesPickTheEnds) {
   EXPECT_EQ(reference_names(fabric_path(), {.role = "PartComponent"}).returned.paths.size(), 0u);
 }
 
-TEST_F(Associations, ClassesOfAssociationAndResultIncludeTheirSubclasses) {
+TEST_F(ProviderAssociations, ClassesOfAssociationAndResultIncludeTheirSubclasses) {
   for (const char* association : {"vexor_containeddomain", "CIM_ContainedDomain", ""})
     EXPECT_EQ(associator_names(fabric_path(), {.association = association}).returned.paths.size(),
               2u)
@@ -93,20 +93,20 @@ TEST_F(Associations, ClassesOfAssociationAndResultIncludeTheirSubclasses) {
             0u);
 }
 
-TEST_F(Associations, AnObjectThatDoesNotExistHasNone) {
+TEST_F(ProviderAssociations, AnObjectThatDoesNotExistHasNone) {
   EXPECT_EQ(associator_names(fabric_path("PHYSICAL_FABRIC"), {}).returned.paths.size(), 0u);
   EXPECT_EQ(references(vsan_path("2003000DEC0A1B2D"), {}).returned.instances.size(), 0u);
   EXPECT_EQ(associators(broker_.path("VEXOR_Vsan"), {}).returned.instances.size(), 0u);
 }
 
-TEST_F(Associations, AnObjectOfAnotherClassCostsNoExchange) {
-  const Answer answer = associators(broker_.path("VEXOR_Zone", {{"InstanceID", "1"}}), {});
+TEST_F(ProviderAssociations, AnObjectOfAnotherClassCostsNoExchange) {
+  const Outcome answer = associators(broker_.path("VEXOR_Zone", {{"InstanceID", "1"}}), {});
   EXPECT_EQ(answer.code, CMPI_RC_OK);
   EXPECT_EQ(answer.returned.instances.size(), 0u);
   EXPECT_EQ(switch_.calls(), 0u);
 }
 
-TEST_F(Associations, PropertyListsActOnTheClassThatIsReturned) {
+TEST_F(ProviderAssociations, PropertyListsActOnTheClassThatIsReturned) {
   const char* list[] = {"status", nullptr};
   EXPECT_EQ(associators(vsan_path("2001000DEC0A1B2D"), {}, list).returned.instances,
             (Texts{"VEXOR_AdminDomain {Name=\"2001000DEC0A1B2D\", Status=\"Up\", "

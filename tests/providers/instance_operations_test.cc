@@ -6,25 +6,25 @@ namespace {
 using namespace provider_tests;
 using test_support::HeapLedger;
 
-class Instances : public ProviderFixture {};
+class ProviderInstances : public ProviderFixture {};
 
-TEST_F(Instances, NamesOfVsansAreTheirWwns) {
-  const Answer answer = names("VEXOR_Vsan");
+TEST_F(ProviderInstances, NamesOfVsansAreTheirWwns) {
+  const Outcome answer = names("VEXOR_Vsan");
   EXPECT_EQ(answer.code, CMPI_RC_OK) << answer.message;
   EXPECT_EQ(answer.returned.paths, (Texts{kVsan1, kVsan2}));
 }
 
-TEST_F(Instances, InstancesOfVsansHoldEveryProperty) {
-  const Answer answer = enumerate("VEXOR_Vsan");
+TEST_F(ProviderInstances, InstancesOfVsansHoldEveryProperty) {
+  const Outcome answer = enumerate("VEXOR_Vsan");
   EXPECT_EQ(answer.code, CMPI_RC_OK) << answer.message;
   EXPECT_EQ(answer.returned.instances, (Texts{kVsan1Instance, kVsan2Instance}));
 }
 
-TEST_F(Instances, ClassNamesAreTakenInAnyCaseAndComeBackInTheirOwn) {
+TEST_F(ProviderInstances, ClassNamesAreTakenInAnyCaseAndComeBackInTheirOwn) {
   EXPECT_EQ(names("vexor_VSAN").returned.paths, (Texts{kVsan1, kVsan2}));
 }
 
-TEST_F(Instances, ASuspendedVsanIsListedByItsNumber) {
+TEST_F(ProviderInstances, ASuspendedVsanIsListedByItsNumber) {
   switch_.suspend(2);
   EXPECT_EQ(names("VEXOR_Vsan").returned.paths,
             (Texts{kVsan1,
@@ -32,21 +32,21 @@ TEST_F(Instances, ASuspendedVsanIsListedByItsNumber) {
                    "CreationClassName=\"VEXOR_Vsan\""}));
 }
 
-TEST_F(Instances, AVsanWhoseDomainManagerRefusesIsStillListed) {
+TEST_F(ProviderInstances, AVsanWhoseDomainManagerRefusesIsStillListed) {
   switch_.domain_manager_refuses(2);
-  const Answer answer = names("VEXOR_Vsan");
+  const Outcome answer = names("VEXOR_Vsan");
   EXPECT_EQ(answer.code, CMPI_RC_OK);
   EXPECT_EQ(answer.returned.paths, (Texts{kVsan1,
                                           "root/cimv2:VEXOR_Vsan.Name=\"error during get vsan id\","
                                           "CreationClassName=\"VEXOR_Vsan\""}));
 }
 
-TEST_F(Instances, TheFabricIsOneObject) {
+TEST_F(ProviderInstances, TheFabricIsOneObject) {
   EXPECT_EQ(names("VEXOR_AdminDomain").returned.paths, (Texts{kFabric}));
   EXPECT_EQ(enumerate("VEXOR_AdminDomain").returned.instances, (Texts{kFabricInstance}));
 }
 
-TEST_F(Instances, EveryVsanIsContainedInTheFabric) {
+TEST_F(ProviderInstances, EveryVsanIsContainedInTheFabric) {
   const std::string fabric = std::string("[") + kFabric + "]";
   const std::string first = "[" + std::string(kVsan1) + "]";
   const std::string second = "[" + std::string(kVsan2) + "]";
@@ -62,7 +62,7 @@ TEST_F(Instances, EveryVsanIsContainedInTheFabric) {
           "VEXOR_ContainedDomain {GroupComponent=" + fabric + ", PartComponent=" + second + "}"}));
 }
 
-TEST_F(Instances, ASuperclassGivesTheInstancesOfItsSubclasses) {
+TEST_F(ProviderInstances, ASuperclassGivesTheInstancesOfItsSubclasses) {
   broker_.derives("VEXOR_Vsan", "CIM_AdminDomain");
   broker_.derives("VEXOR_AdminDomain", "CIM_AdminDomain");
   EXPECT_EQ(names("CIM_AdminDomain").returned.paths, (Texts{kFabric, kVsan1, kVsan2}));
@@ -70,8 +70,8 @@ TEST_F(Instances, ASuperclassGivesTheInstancesOfItsSubclasses) {
             (Texts{kFabricInstance, kVsan1Instance, kVsan2Instance}));
 }
 
-TEST_F(Instances, AnUnknownClassIsRefusedByName) {
-  const Answer answer = names("VEXOR_Nothing");
+TEST_F(ProviderInstances, AnUnknownClassIsRefusedByName) {
+  const Outcome answer = names("VEXOR_Nothing");
   EXPECT_EQ(answer.code, CMPI_RC_ERR_INVALID_CLASS);
   EXPECT_EQ(answer.message, "\"VEXOR_Nothing\" is not a class of this provider");
   EXPECT_EQ(enumerate("VEXOR_Nothing").code, CMPI_RC_ERR_INVALID_CLASS);
@@ -79,7 +79,7 @@ TEST_F(Instances, AnUnknownClassIsRefusedByName) {
   EXPECT_EQ(switch_.calls(), 0u);
 }
 
-TEST_F(Instances, ABrokerThatCannotTellSubclassesStillFindsClassesByName) {
+TEST_F(ProviderInstances, ABrokerThatCannotTellSubclassesStillFindsClassesByName) {
   broker_.leave_out_optional_slots();
   EXPECT_EQ(names("VEXOR_Vsan").returned.paths.size(), 2u);
   EXPECT_EQ(names("CIM_AdminDomain").code, CMPI_RC_ERR_INVALID_CLASS);
@@ -87,22 +87,22 @@ TEST_F(Instances, ABrokerThatCannotTellSubclassesStillFindsClassesByName) {
 
 // ---- getInstance ----
 
-TEST_F(Instances, GetGivesTheVsanThatItsWwnNames) {
-  const Answer answer = get(vsan_path("2002000DEC0A1B2D"));
+TEST_F(ProviderInstances, GetGivesTheVsanThatItsWwnNames) {
+  const Outcome answer = get(vsan_path("2002000DEC0A1B2D"));
   EXPECT_EQ(answer.code, CMPI_RC_OK) << answer.message;
   EXPECT_EQ(answer.returned.instances, (Texts{kVsan2Instance}));
 }
 
-TEST_F(Instances, GetOfAVsanAsksForThatVsanOnly) {
+TEST_F(ProviderInstances, GetOfAVsanAsksForThatVsanOnly) {
   get(vsan_path("2002000DEC0A1B2D"));
   EXPECT_EQ(switch_.calls(kVsanOpcode), 1u);
   EXPECT_EQ(switch_.calls(kDomainOpcode), 1u);
   EXPECT_EQ(switch_.calls(), 2u);
 }
 
-TEST_F(Instances, GetGivesASuspendedVsanByItsNumber) {
+TEST_F(ProviderInstances, GetGivesASuspendedVsanByItsNumber) {
   switch_.suspend(2);
-  const Answer answer = get(vsan_path("0000000000000000:2"));
+  const Outcome answer = get(vsan_path("0000000000000000:2"));
   EXPECT_EQ(answer.code, CMPI_RC_OK) << answer.message;
   EXPECT_EQ(answer.returned.instances,
             (Texts{"VEXOR_Vsan {Name=\"0000000000000000:2\", NameFormat=\"WWN\", "
@@ -112,23 +112,23 @@ TEST_F(Instances, GetGivesASuspendedVsanByItsNumber) {
   EXPECT_EQ(switch_.calls(), 2u);
 }
 
-TEST_F(Instances, GetGivesAVsanWhoseWwnDoesNotHoldItsNumber) {
+TEST_F(ProviderInstances, GetGivesAVsanWhoseWwnDoesNotHoldItsNumber) {
   switch_.alternate_wwn(2, "10 00 00 0d ec 0a 1b 2d");
   EXPECT_EQ(names("VEXOR_Vsan").returned.paths[1],
             "root/cimv2:VEXOR_Vsan.Name=\"1000000DEC0A1B2D\",CreationClassName=\"VEXOR_Vsan\"");
-  const Answer answer = get(vsan_path("1000000DEC0A1B2D"));
+  const Outcome answer = get(vsan_path("1000000DEC0A1B2D"));
   EXPECT_EQ(answer.code, CMPI_RC_OK) << answer.message;
   ASSERT_EQ(answer.returned.instances.size(), 1u);
   EXPECT_NE(answer.returned.instances[0].find("VsanId=uint16 2"), std::string::npos);
 }
 
-TEST_F(Instances, EveryListedNameCanBeGot) {
+TEST_F(ProviderInstances, EveryListedNameCanBeGot) {
   switch_.suspend(1);
   for (const char* name : {"0000000000000000:1", "2002000DEC0A1B2D"})
     EXPECT_EQ(get(vsan_path(name)).code, CMPI_RC_OK) << name;
 }
 
-TEST_F(Instances, NamesAreComparedExactly) {
+TEST_F(ProviderInstances, NamesAreComparedExactly) {
   switch_.suspend(2);
   for (const char* name :
        {"2003000DEC0A1B2D", "2001000DEC0A1B2E", "2001000dec0a1b2d", "2001000DEC0A1B2D ", "",
@@ -136,64 +136,64 @@ TEST_F(Instances, NamesAreComparedExactly) {
         "0000000000000000:23456", "2002000DEC0A1B2D", ":", "error during get vsan id",
         "a name much longer than any buffer that the library keeps for a name, of which there are "
         "several, and the longest of them takes one hundred and twenty-seven characters: 2"}) {
-    const Answer answer = get(vsan_path(name));
+    const Outcome answer = get(vsan_path(name));
     EXPECT_EQ(answer.code, CMPI_RC_ERR_NOT_FOUND) << name;
     EXPECT_EQ(answer.message, "there is no such VEXOR_Vsan") << name;
     EXPECT_TRUE(answer.returned.instances.empty()) << name;
   }
 }
 
-TEST_F(Instances, TheCreationClassNameHasToBeTheClass) {
+TEST_F(ProviderInstances, TheCreationClassNameHasToBeTheClass) {
   const auto* path = broker_.path(
       "VEXOR_Vsan", {{"Name", "2001000DEC0A1B2D"}, {"CreationClassName", "VEXOR_AdminDomain"}});
   EXPECT_EQ(get(path).code, CMPI_RC_ERR_NOT_FOUND);
 }
 
-TEST_F(Instances, NamesOfKeysAndClassesAreTakenInAnyCaseAndOrder) {
-  const Answer answer = get(broker_.path(
+TEST_F(ProviderInstances, NamesOfKeysAndClassesAreTakenInAnyCaseAndOrder) {
+  const Outcome answer = get(broker_.path(
       "vexor_vsan", {{"CREATIONCLASSNAME", "VEXOR_Vsan"}, {"name", "2001000DEC0A1B2D"}}));
   EXPECT_EQ(answer.returned.instances, (Texts{kVsan1Instance}));
 }
 
-TEST_F(Instances, AMissingKeyIsAskedForBeforeTheSwitchIs) {
-  const Answer answer = get(broker_.path("VEXOR_Vsan", {{"Name", "2001000DEC0A1B2D"}}));
+TEST_F(ProviderInstances, AMissingKeyIsAskedForBeforeTheSwitchIs) {
+  const Outcome answer = get(broker_.path("VEXOR_Vsan", {{"Name", "2001000DEC0A1B2D"}}));
   EXPECT_EQ(answer.code, CMPI_RC_ERR_INVALID_PARAMETER);
   EXPECT_EQ(answer.message, "the object path of a VEXOR_Vsan lacks the key \"CreationClassName\"");
   EXPECT_EQ(switch_.calls(), 0u);
 }
 
-TEST_F(Instances, AnUnknownKeyIsRefusedByName) {
+TEST_F(ProviderInstances, AnUnknownKeyIsRefusedByName) {
   auto* path = vsan_path("2001000DEC0A1B2D");
-  const Answer answer = get(broker_.add_reference(path, "Switch", fabric_path()));
+  const Outcome answer = get(broker_.add_reference(path, "Switch", fabric_path()));
   EXPECT_EQ(answer.code, CMPI_RC_ERR_INVALID_PARAMETER);
   EXPECT_EQ(answer.message, "VEXOR_Vsan has no key \"Switch\"");
 }
 
-TEST_F(Instances, AReferenceWhereATextBelongsNamesNothing) {
+TEST_F(ProviderInstances, AReferenceWhereATextBelongsNamesNothing) {
   auto* path = broker_.path("VEXOR_Vsan", {{"CreationClassName", "VEXOR_Vsan"}});
   EXPECT_EQ(get(broker_.add_reference(path, "Name", fabric_path())).code, CMPI_RC_ERR_NOT_FOUND);
 }
 
-TEST_F(Instances, AKeyWithoutAValueIsRefusedByName) {
+TEST_F(ProviderInstances, AKeyWithoutAValueIsRefusedByName) {
   auto* path = broker_.path("VEXOR_Vsan", {{"CreationClassName", "VEXOR_Vsan"}});
   path->ft->addKey(path, "Name", nullptr, CMPI_string);
-  const Answer answer = get(path);
+  const Outcome answer = get(path);
   EXPECT_EQ(answer.code, CMPI_RC_ERR_INVALID_PARAMETER);
   EXPECT_EQ(answer.message, "key \"Name\" has no value");
 }
 
-TEST_F(Instances, GetOfTheFabric) {
+TEST_F(ProviderInstances, GetOfTheFabric) {
   EXPECT_EQ(get(fabric_path()).returned.instances, (Texts{kFabricInstance}));
   EXPECT_EQ(get(fabric_path("2002000DEC0A1B2D")).code, CMPI_RC_ERR_NOT_FOUND);
 }
 
-TEST_F(Instances, AFabricWithoutItsDomainManagerGoesByAFixedName) {
+TEST_F(ProviderInstances, AFabricWithoutItsDomainManagerGoesByAFixedName) {
   switch_.domain_manager_refuses(1);
   EXPECT_EQ(get(fabric_path("PHYSICAL_FABRIC")).code, CMPI_RC_OK);
   EXPECT_EQ(get(fabric_path()).code, CMPI_RC_ERR_NOT_FOUND);
 }
 
-TEST_F(Instances, GetOfAContainedDomainComparesBothEnds) {
+TEST_F(ProviderInstances, GetOfAContainedDomainComparesBothEnds) {
   auto contained = [&](CMPIObjectPath* fabric, CMPIObjectPath* vsan) {
     auto* path = broker_.path("VEXOR_ContainedDomain");
     broker_.add_reference(path, "PartComponent", vsan);
@@ -210,7 +210,7 @@ TEST_F(Instances, GetOfAContainedDomainComparesBothEnds) {
 
 // ---- property lists ----
 
-TEST_F(Instances, APropertyListIsHonouredInAnyCaseAndKeepsTheKeys) {
+TEST_F(ProviderInstances, APropertyListIsHonouredInAnyCaseAndKeepsTheKeys) {
   const char* list[] = {"vsanid", "STATUS", "NoSuchProperty", nullptr};
   const Texts expected = {
       "VEXOR_Vsan {Name=\"2001000DEC0A1B2D\", VsanId=uint16 1, Status=\"Up\", "
@@ -219,7 +219,7 @@ TEST_F(Instances, APropertyListIsHonouredInAnyCaseAndKeepsTheKeys) {
   EXPECT_EQ(enumerate("VEXOR_Vsan", list).returned.instances[0], expected[0]);
 }
 
-TEST_F(Instances, APropertyListIsHonouredWhereTheBrokerIgnoresFilters) {
+TEST_F(ProviderInstances, APropertyListIsHonouredWhereTheBrokerIgnoresFilters) {
   broker_.ignore_property_filters();
   const char* list[] = {"elementname", nullptr};
   EXPECT_EQ(get(vsan_path("2001000DEC0A1B2D"), list).returned.instances,
@@ -227,7 +227,7 @@ TEST_F(Instances, APropertyListIsHonouredWhereTheBrokerIgnoresFilters) {
                    "CreationClassName=\"VEXOR_Vsan\"}"}));
 }
 
-TEST_F(Instances, APropertyListIsHonouredWhereTheBrokerHasNoFilters) {
+TEST_F(ProviderInstances, APropertyListIsHonouredWhereTheBrokerHasNoFilters) {
   broker_.leave_out_optional_slots();
   const char* list[] = {"elementname", nullptr};
   EXPECT_EQ(get(fabric_path(), list).returned.instances,
@@ -235,13 +235,13 @@ TEST_F(Instances, APropertyListIsHonouredWhereTheBrokerHasNoFilters) {
                    "CreationClassName=\"VEXOR_AdminDomain\"}"}));
 }
 
-TEST_F(Instances, AnEmptyPropertyListAsksForTheKeysOnly) {
+TEST_F(ProviderInstances, AnEmptyPropertyListAsksForTheKeysOnly) {
   const char* list[] = {nullptr};
   EXPECT_EQ(get(vsan_path("2001000DEC0A1B2D"), list).returned.instances,
             (Texts{"VEXOR_Vsan {Name=\"2001000DEC0A1B2D\", CreationClassName=\"VEXOR_Vsan\"}"}));
 }
 
-TEST_F(Instances, TheKeysOfAnAssociationAreItsEnds) {
+TEST_F(ProviderInstances, TheKeysOfAnAssociationAreItsEnds) {
   const char* list[] = {"Caption", nullptr};
   EXPECT_EQ(enumerate("VEXOR_ContainedDomain", list).returned.instances[0],
             "VEXOR_ContainedDomain {GroupComponent=[" + std::string(kFabric) +
@@ -250,20 +250,20 @@ TEST_F(Instances, TheKeysOfAnAssociationAreItsEnds) {
 
 // ---- what these classes do not do ----
 
-TEST_F(Instances, VsansCannotBeCreatedModifiedOrDeletedYet) {
+TEST_F(ProviderInstances, VsansCannotBeCreatedModifiedOrDeletedYet) {
   const auto* path = vsan_path("2001000DEC0A1B2D");
   const auto* values = broker_.instance("VEXOR_Vsan");
-  const Answer created = ask([&](const CMPIResult* result) {
+  const Outcome created = ask([&](const CMPIResult* result) {
     return instances_->ft->createInstance(instances_, nullptr, result, path, values);
   });
   EXPECT_EQ(created.code, CMPI_RC_ERR_NOT_SUPPORTED);
   EXPECT_EQ(created.message, "instances of VEXOR_Vsan cannot be created");
-  const Answer modified = ask([&](const CMPIResult* result) {
+  const Outcome modified = ask([&](const CMPIResult* result) {
     return instances_->ft->modifyInstance(instances_, nullptr, result, path, values, nullptr);
   });
   EXPECT_EQ(modified.code, CMPI_RC_ERR_NOT_SUPPORTED);
   EXPECT_EQ(modified.message, "instances of VEXOR_Vsan cannot be modified");
-  const Answer deleted = ask([&](const CMPIResult* result) {
+  const Outcome deleted = ask([&](const CMPIResult* result) {
     return instances_->ft->deleteInstance(instances_, nullptr, result, path);
   });
   EXPECT_EQ(deleted.code, CMPI_RC_ERR_NOT_SUPPORTED);
@@ -271,8 +271,8 @@ TEST_F(Instances, VsansCannotBeCreatedModifiedOrDeletedYet) {
   EXPECT_EQ(switch_.calls(), 0u);
 }
 
-TEST_F(Instances, QueriesAreNotSupported) {
-  const Answer answer = ask([&](const CMPIResult* result) {
+TEST_F(ProviderInstances, QueriesAreNotSupported) {
+  const Outcome answer = ask([&](const CMPIResult* result) {
     return instances_->ft->execQuery(instances_, nullptr, result, broker_.path("VEXOR_Vsan"),
                                      "select * from VEXOR_Vsan", "WQL");
   });
@@ -280,8 +280,8 @@ TEST_F(Instances, QueriesAreNotSupported) {
   EXPECT_EQ(answer.message, "queries are not supported");
 }
 
-TEST_F(Instances, AnUnknownMethodIsRefusedByName) {
-  const Answer answer = ask([&](const CMPIResult* result) {
+TEST_F(ProviderInstances, AnUnknownMethodIsRefusedByName) {
+  const Outcome answer = ask([&](const CMPIResult* result) {
     return methods_->ft->invokeMethod(methods_, nullptr, result, vsan_path("2001000DEC0A1B2D"),
                                       "Suspend", broker_.arguments(), broker_.arguments());
   });

@@ -52,7 +52,7 @@ inline constexpr const char* kFabricInstance =
     "Status=\"Up\", CreationClassName=\"VEXOR_AdminDomain\"}";
 
 // How an operation ended, and what it returned until then.
-struct Answer {
+struct Outcome {
   CMPIrc code = CMPI_RC_OK;
   std::string message;
   Returned returned;
@@ -63,7 +63,6 @@ class ProviderFixture : public testing::Test {
   ProviderFixture() {
     mts_q = test_support::kQueue;     // bound by someone else before: init_mts gives it out
     vexor::providers::queue::join();  // so that the tests of one process share one bound queue
-    broker_.expect_free_lock_on_return();
     instances_ = _Generic_Create_InstanceMI(broker_.face(), nullptr, "VexorProvider", nullptr);
     associations_ =
         _Generic_Create_AssociationMI(broker_.face(), nullptr, "VexorProvider", nullptr);
@@ -78,8 +77,8 @@ class ProviderFixture : public testing::Test {
 
   // Runs operation(const CMPIResult*).
   template <class Operation>
-  Answer ask(Operation operation) {
-    Answer answer;
+  Outcome ask(Operation operation) {
+    Outcome answer;
     const CMPIStatus status = operation(broker_.result(answer.returned));
     answer.code = status.rc;
     answer.message = broker_.text(status.msg);
@@ -88,19 +87,19 @@ class ProviderFixture : public testing::Test {
     return answer;
   }
 
-  Answer names(const char* class_name) {
+  Outcome names(const char* class_name) {
     return ask([&](const CMPIResult* result) {
       return instances_->ft->enumerateInstanceNames(instances_, nullptr, result,
                                                     broker_.path(class_name));
     });
   }
-  Answer enumerate(const char* class_name, const char** properties = nullptr) {
+  Outcome enumerate(const char* class_name, const char** properties = nullptr) {
     return ask([&](const CMPIResult* result) {
       return instances_->ft->enumerateInstances(instances_, nullptr, result,
                                                 broker_.path(class_name), properties);
     });
   }
-  Answer get(const CMPIObjectPath* path, const char** properties = nullptr) {
+  Outcome get(const CMPIObjectPath* path, const char** properties = nullptr) {
     return ask([&](const CMPIResult* result) {
       return instances_->ft->getInstance(instances_, nullptr, result, path, properties);
     });
@@ -111,29 +110,29 @@ class ProviderFixture : public testing::Test {
     const char* role = nullptr;
     const char* result_role = nullptr;
   };
-  Answer associators(const CMPIObjectPath* path, const Filter& filter,
-                     const char** properties = nullptr) {
+  Outcome associators(const CMPIObjectPath* path, const Filter& filter,
+                      const char** properties = nullptr) {
     return ask([&](const CMPIResult* result) {
       return associations_->ft->associators(associations_, nullptr, result, path,
                                             filter.association, filter.result_class, filter.role,
                                             filter.result_role, properties);
     });
   }
-  Answer associator_names(const CMPIObjectPath* path, const Filter& filter) {
+  Outcome associator_names(const CMPIObjectPath* path, const Filter& filter) {
     return ask([&](const CMPIResult* result) {
       return associations_->ft->associatorNames(associations_, nullptr, result, path,
                                                 filter.association, filter.result_class,
                                                 filter.role, filter.result_role);
     });
   }
-  Answer references(const CMPIObjectPath* path, const Filter& filter,
-                    const char** properties = nullptr) {
+  Outcome references(const CMPIObjectPath* path, const Filter& filter,
+                     const char** properties = nullptr) {
     return ask([&](const CMPIResult* result) {
       return associations_->ft->references(associations_, nullptr, result, path,
                                            filter.result_class, filter.role, properties);
     });
   }
-  Answer reference_names(const CMPIObjectPath* path, const Filter& filter) {
+  Outcome reference_names(const CMPIObjectPath* path, const Filter& filter) {
     return ask([&](const CMPIResult* result) {
       return associations_->ft->referenceNames(associations_, nullptr, result, path,
                                                filter.result_class, filter.role);

@@ -104,7 +104,7 @@ struct TestBroker::Impl {
   std::map<std::string, std::string> superclasses;
   std::map<std::string, CMPIType> declared;
   bool filters = true;
-  bool lock_is_watched = false;
+  bool lock_is_watched = true;
   int path_fails = 0, instance_fails = 0, return_fails = 0, property_fails = 0;
   CMPIrc return_code = CMPI_RC_OK;
   int set_calls = 0;
@@ -194,7 +194,7 @@ void set(std::vector<Named>& list, const char* name, const CMPIData& data) {
     list.push_back({name, data});
 }
 
-std::string quoted(const std::string& text) {
+std::string in_quotes(const std::string& text) {
   return '"' + text + '"';
 }
 
@@ -210,7 +210,7 @@ std::string print(const CMPIData& data) {
   }
   switch (data.type) {
     case CMPI_string:
-      return quoted(of(data.value.string).text);
+      return in_quotes(of(data.value.string).text);
     case CMPI_ref:
       return "[" + print(data.value.ref) + "]";
     case CMPI_boolean:
@@ -551,6 +551,7 @@ const CMPIBroker* TestBroker::face() const {
 CMPIObjectPath* TestBroker::path(
     const char* class_name, const std::vector<std::pair<const char*, const char*>>& text_keys) {
   const Pause pause;
+  const Guard guard(impl_->mutex);
   CMPIObjectPath* path = impl_->path("root/cimv2", class_name);
   for (const auto& [name, text] : text_keys)
     add_key(path, name, reinterpret_cast<const CMPIValue*>(text), CMPI_chars);
@@ -610,8 +611,8 @@ void TestBroker::leave_out_optional_slots() {
 void TestBroker::ignore_property_filters() {
   impl_->filters = false;
 }
-void TestBroker::expect_free_lock_on_return() {
-  impl_->lock_is_watched = true;
+void TestBroker::watch_lock_on_return(bool on) {
+  impl_->lock_is_watched = on;
 }
 
 void TestBroker::fail_path(int n) {

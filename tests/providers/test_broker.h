@@ -60,8 +60,8 @@ class TestBroker {
   // Slots that brokers leave out: classPathIsA, setPropertyFilter.
   void leave_out_optional_slots();
   void ignore_property_filters();
-  // While it is set, objects may only be returned while the library's lock is free.
-  void expect_free_lock_on_return();
+  // While it is on (at first it is), objects may only be returned while the library's lock is free.
+  void watch_lock_on_return(bool on);
 
   // ---- how it fails: the n-th from now on, once ----
   void fail_path(int n);

@@ -1,0 +1,212 @@
+// The provider library in the embedded object manager, against the simulated fabric.
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <fstream>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "host/object_manager.h"
+#include "host/object_path.h"
+#include "schema/repository.h"
+#include "simulator/control/control.h"
+
+namespace {
+
+namespace control = switch_sim::control;
+using cim::host::Behavior;
+using cim::host::CimError;
+using cim::host::Instance;
+using cim::host::ObjectManager;
+using cim::host::ObjectPath;
+using Texts = std::vector<std::string>;
+
+constexpr const char* kNamespace = "root/cimv2";
+
+// Without the host, which is that of the machine.
+std::string text(ObjectPath path) {
+  path.host.clear();
+  for (auto& key : path.keys)
+    if (auto* reference = std::get_if<cim::host::PathPtr>(&key.data.element)) {
+      ObjectPath end = **reference;
+      end.host.clear();
+      *reference = std::make_shared<const ObjectPath>(end);
+    }
+  return to_text(path);
+}
+
+bool is_loaded() {
+  void* library = dlopen(PROVIDERS_LIBRARY, RTLD_NOLOAD | RTLD_LAZY);
+  if (library == nullptr) return false;
+  dlclose(library);
+  return true;
+}
+
+class LoadedProviders : public testing::Test {
+ protected:
+  LoadedProviders() {
+    control::reset();
+    const auto problems = repository_.add_file(std::string(CIM_SOURCE_DIR) + "/mof/vexor.mof");
+    EXPECT_TRUE(problems.empty());
+  }
+
+  // The traces of the library go to standard output.
+  void SetUp() override { testing::internal::CaptureStdout(); }
+  void TearDown() override { testing::internal::GetCapturedStdout(); }
+
+  cim::host::Settings settings(const Behavior& behavior = {}) {
+    cim::host::Settings result;
+    result.providers = {{"VexorProvider", PROVIDERS_LIBRARY, "VEXOR_"}};
+    result.behavior = behavior;
+    result.report = [this](std::string_view line) { reports_.emplace_back(line); };
+    return result;
+  }
+  static Texts names(ObjectManager& manager, const char* class_name) {
+    Texts result;
+    for (const ObjectPath& path : manager.enumerate_instance_names(kNamespace, class_name))
+      result.push_back(text(path));
+    return result;
+  }
+
+  cim::schema::Repository repository_;
+  Texts reports_;
+};
+
+const Texts kVsans = {
+    "root/cimv2:VEXOR_Vsan.Name=\"2001000DEC0A1B2D\",CreationClassName=\"VEXOR_Vsan\"",
+    "root/cimv2:VEXOR_Vsan.Name=\"2002000DEC0A1B2D\",CreationClassName=\"VEXOR_Vsan\""};
+constexpr const char* kFabric =
+    "root/cimv2:VEXOR_AdminDomain.Name=\"2001000DEC0A1B2D\","
+    "CreationClassName=\"VEXOR_AdminDomain\"";
+
+TEST_F(LoadedProviders, EnumerateTheVsansOfTheFabric) {
+  ObjectManager manager(repository_, settings());
+  EXPECT_EQ(names(manager, "VEXOR_Vsan"), kVsans);
+  EXPECT_EQ(names(manager, "VEXOR_AdminDomain"), (Texts{kFabric}));
+  EXPECT_EQ(names(manager, "VEXOR_ContainedDomain").size(), 2u);
+  EXPECT_EQ(names(manager, "CIM_AdminDomain").size(), 3u);
+  EXPECT_EQ(reports_, Texts{});
+}
+
+TEST_F(LoadedProviders, EveryNameOfEveryClassCanBeGotUnderEveryBehavior) {
+  for (const Behavior& behavior : {Behavior{}, Behavior::lenient(), Behavior::quiet()}) {
+    ObjectManager manager(repository_, settings(behavior));
+    for (const char* cls : {"VEXOR_AdminDomain", "VEXOR_ContainedDomain", "VEXOR_Vsan"}) {
+      const auto paths = manager.enumerate_instance_names(kNamespace, cls);
+      EXPECT_FALSE(paths.empty()) << cls;
+      for (const ObjectPath& path : paths) {
+        const Instance instance = manager.get_instance(path);
+        EXPECT_TRUE(same_instance(instance.path, path)) << text(path);
+      }
+    }
+  }
+}
+
+TEST_F(LoadedProviders, AssociationsAreWalkedFromBothEnds) {
+  ObjectManager manager(repository_, settings());
+  const auto fabric = manager.enumerate_instance_names(kNamespace, "VEXOR_AdminDomain").at(0);
+  const auto vsans = manager.associator_names(fabric, {.association_class = "VEXOR_ContainedDomain",
+                                                       .result_class = "",
+                                                       .role = "",
+                                                       .result_role = ""});
+  ASSERT_EQ(vsans.size(), 2u);
+  EXPECT_EQ(text(vsans[0]), kVsans[0]);
+  const auto back = manager.associator_names(vsans[1]);
+  ASSERT_EQ(back.size(), 1u);
+  EXPECT_EQ(text(back[0]), kFabric);
+  EXPECT_EQ(manager.references(vsans[1]).size(), 1u);
+}
+
+TEST_F(LoadedProviders, WhatDoesNotExistIsNotFound) {
+  ObjectManager manager(repository_, settings());
+  auto parsed = cim::host::parse_object_path(
+      "root/cimv2:VEXOR_Vsan.Name=\"2009000DEC0A1B2D\",CreationClassName=\"VEXOR_Vsan\"");
+  try {
+    manager.get_instance(parsed.path);
+    FAIL() << "found";
+  } catch (const CimError& error) {
+    EXPECT_EQ(error.code(), CMPI_RC_ERR_NOT_FOUND);
+    EXPECT_NE(std::string(error.what()).find("there is no such VEXOR_Vsan"), std::string::npos);
+  }
+}
+
+TEST_F(LoadedProviders, TheQueueIsHeldFromTheFirstRequestToTheEnd) {
+  {
+    ObjectManager manager(repository_, settings());
+    EXPECT_EQ(control::outstanding().queues, 0);
+    names(manager, "VEXOR_Vsan");
+    manager.associator_names(manager.enumerate_instance_names(kNamespace, "VEXOR_Vsan").at(0));
+    EXPECT_EQ(control::outstanding().queues, 1);
+  }
+  EXPECT_EQ(control::outstanding().queues, 0);
+  EXPECT_EQ(control::outstanding().messages, 0);
+}
+
+TEST_F(LoadedProviders, UnloadAndLoadAgain) {
+  for (int round = 0; round < 3; ++round) {
+    {
+      ObjectManager manager(repository_, settings());
+      EXPECT_EQ(names(manager, "VEXOR_Vsan"), kVsans);
+      EXPECT_TRUE(is_loaded());
+    }
+    EXPECT_FALSE(is_loaded()) << "round " << round;
+  }
+}
+
+TEST_F(LoadedProviders, ASuspendedVsanIsGotByItsNumber) {
+  auto fabric = control::default_fabric();
+  fabric.vsans.at(1).state = switch_sim::VsanState::suspended;
+  ASSERT_EQ(control::install(fabric), std::nullopt);
+  ObjectManager manager(repository_, settings());
+  const auto paths = manager.enumerate_instance_names(kNamespace, "VEXOR_Vsan");
+  ASSERT_EQ(paths.size(), 2u);
+  EXPECT_EQ(text(paths[1]),
+            "root/cimv2:VEXOR_Vsan.Name=\"0000000000000000:2\",CreationClassName=\"VEXOR_Vsan\"");
+  EXPECT_TRUE(same_instance(manager.get_instance(paths[1]).path, paths[1]));
+}
+
+// ---- what the library offers and needs ----
+
+Texts symbols(const char* options) {
+  Texts result;
+  FILE* nm = popen((std::string(CIM_NM) + " -D " + options + " " + PROVIDERS_LIBRARY).c_str(), "r");
+  char line[4096];
+  while (nm != nullptr && std::fgets(line, sizeof line, nm) != nullptr) {
+    std::istringstream words(line);
+    std::string word, last;
+    while (words >> word)
+      last = word;
+    result.push_back(last.substr(0, last.find('@')));
+  }
+  EXPECT_EQ(pclose(nm), 0);
+  return result;
+}
+
+TEST(ProviderExports, AreTheGenericFactoriesOnly) {
+  Texts names = symbols("--defined-only");
+  std::erase(names, "VEXOR_PROVIDERS_1");
+  std::sort(names.begin(), names.end());
+  EXPECT_EQ(names, (Texts{"_Generic_Create_AssociationMI", "_Generic_Create_InstanceMI",
+                          "_Generic_Create_MethodMI"}));
+}
+
+TEST(ProviderImports, FromOurLibrariesAreItsPublicFunctionsOnly) {
+  std::set<std::string> listed;
+  std::ifstream in(std::string(CIM_SOURCE_DIR) + "/tests/exports/public_names.txt");
+  for (std::string line; std::getline(in, line);)
+    listed.insert(line);
+  int ours = 0;
+  for (const std::string& name : symbols("--undefined-only")) {
+    ours += listed.contains(name) ? 1 : 0;
+    // The switch's own services are asked through the library, never around it.
+    for (const char* prefix : {"mts_", "cmi_", "zs_cmi_", "pm_cmi_", "ns_send_", "fcs_send_"})
+      EXPECT_FALSE(name.starts_with(prefix)) << name;
+  }
+  EXPECT_GT(ours, 8);
+}
+
+}  // namespace
