@@ -1,4 +1,6 @@
 // The Pegasus face of switches and of their membership in VSANs, and class ComputerSystem.
+#include <Pegasus/Common/System.h>
+#include <cim_utils/cmpi_computer_system.h>
 #include <cim_utils/computer_system.h>
 #include <cim_utils/provider_util.h>
 #include <cim_utils/session.h>
@@ -6,6 +8,8 @@
 
 #include <cstring>
 #include <functional>
+#include <new>
+#include <optional>
 #include <type_traits>
 
 #include "tests/model/class_source_double.h"
@@ -14,7 +18,9 @@
 #include "tests/model/switch_records.h"
 #include "tests/model/switch_replies.h"
 #include "tests/support/capture.h"
+#include "tests/support/heap_ledger.h"
 #include "tests/support/os_double.h"
+#include "tests/support/recording_broker.h"
 #include "tests/support/transcript.h"
 
 using namespace test_support;
@@ -354,6 +360,66 @@ TEST_F(PegasusComputerSystem, QualifiersComeFromOneNamespaceWhateverTheInstances
   ProviderUtil::switch_build_instance(kPhysical, "root/another", kOwn, 0);
   ProviderUtil::component_build_instance("VEXOR_Component", "root/another", end, end);
   EXPECT_EQ(classes_.asked_in(), (std::vector<std::string>{"root/cimv2", "root/cimv2"}));
+}
+
+TEST_F(PegasusComputerSystem, EveryFailingAllocationOfASwitchIsTheCallersException) {
+  Responder responder([](const Request& request) {
+    return request.opcode == 264 ? Response::with(records::domain_configuration_1())
+                                 : Response::with(records::own_wwn());
+  });
+  const std::function<CIMInstance()> builders[] = {
+      [this] { return ProviderUtil::switch_build_instance(kPhysical, kNamespace); },
+      [this] { return ProviderUtil::switch_build_instance(kPhysical, kNamespace, &element_); },
+      [this] {
+        return ProviderUtil::component_build_instance("VEXOR_Component", kNamespace, &vsan_, &conf_,
+                                                      &element_);
+      },
+  };
+  for (const auto& build : builders) {
+    const std::string whole = pegasus_text::of(build());
+    const size_t rounds = for_every_failing_allocation([&](FailingAllocation& round) {
+      std::optional<CIMInstance> built;
+      round.attempt([&] {
+        try {
+          built = build();
+        } catch (const std::bad_alloc&) {
+        }
+      });
+      // Sorting the keys gets along without the memory that it asks for.
+      EXPECT_TRUE(built.has_value() || round.was_hit()) << round.n();
+      if (built.has_value()) {
+        EXPECT_EQ(pegasus_text::of(*built), whole) << round.n();
+      }
+    });
+    EXPECT_GT(rounds, 20u);
+  }
+}
+
+TEST_F(PegasusComputerSystem, ASwitchesReferenceDiffersBetweenTheFacesInItsHostOnly) {
+  mts_q = kQueue;
+  system_.host_name("not-the-machines-own");
+  RecordingBroker broker;
+  Responder responder([](const Request&) { return Response::with(records::own_wwn()); });
+  const std::pair<CMPIObjectPath*, CIMObjectPath> pairs[] = {
+      {switch_fill_reference(kPhysical, "root/cimv2", broker),
+       ProviderUtil::switch_fill_reference(kPhysical, kNamespace)},
+      {switch_fill_reference_str(kPhysical, "root/cimv2", kOwn, broker),
+       ProviderUtil::switch_fill_reference(kPhysical, kNamespace, kOwn)},
+      {switch_fill_reference_wwn(kPhysical, "root/cimv2", &own_, broker),
+       ProviderUtil::switch_fill_reference(kPhysical, kNamespace, &own_)},
+      {switch_fill_reference_ie(kPhysical, "root/cimv2", &element_, broker),
+       ProviderUtil::switch_fill_reference(kPhysical, kNamespace, &element_)},
+      {switch_fill_reference_dm(kPhysical, "root/cimv2", &domain_, broker),
+       ProviderUtil::switch_fill_reference(kPhysical, kNamespace, &domain_)},
+  };
+  for (const auto& [cmpi, pegasus] : pairs) {
+    EXPECT_EQ("path HOST " + broker.name_space(cmpi) + " " + broker.class_name(cmpi) +
+                  "\nkey CreationClassName = " + broker.key_text(cmpi, "CreationClassName") +
+                  "\nkey Name = " + broker.key_text(cmpi, "Name") + "\n",
+              pegasus_text::of(pegasus));
+    EXPECT_EQ(broker.host(cmpi), "not-the-machines-own");
+    EXPECT_TRUE(String::equal(pegasus.getHost(), Pegasus::System::getHostName()));
+  }
 }
 
 TEST_F(PegasusComputerSystem, TheNameOfTheOwnSwitchIsItsWwn) {
