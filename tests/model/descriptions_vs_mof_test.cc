@@ -4,8 +4,10 @@
 #include <functional>
 #include <set>
 
+#include "model/computer_system.h"
 #include "model/switch_classes.h"
 #include "schema/repository.h"
+#include "tests/model/computer_system_records.h"
 #include "tests/model/listing_builder.h"
 #include "tests/model/switch_records.h"
 #include "tests/model/switch_replies.h"
@@ -25,7 +27,10 @@ struct Description {
 const std::vector<Description>& descriptions() {
   static vsanNewEntry_t vsan = records::vsan_10();
   static mts_dm_sw_conf_ conf = records::configuration_10();
+  static fcs_cim_ie_ element = records::own_element();
+  static mts_dm_sw_dom_list_info_ domain = records::other_domain();
   constexpr const char* ns = "root/cimv2";
+  constexpr const char* wwn = "2000000DEC0A1B3C";
   static const std::vector<Description> all = {
       {"VEXOR_AdminDomain", false,
        [](Builder& b) { fabric_reference(b, "VEXOR_AdminDomain", ns); }},
@@ -40,6 +45,50 @@ const std::vector<Description>& descriptions() {
        }},
       {"VEXOR_ContainedDomain", true,
        [](Builder& b) { contained_domain_instance(b, "VEXOR_ContainedDomain", ns, &vsan, &conf); }},
+      {"VEXOR_ComputerSystem", false,
+       [](Builder& b) { switch_reference(b, "VEXOR_ComputerSystem", ns, wwn); }},
+      {"VEXOR_ComputerSystem", true,
+       [](Builder& b) { switch_instance(b, "VEXOR_ComputerSystem", ns, wwn, 0, nullptr); }},
+      {"VEXOR_ComputerSystem", true,
+       [](Builder& b) { switch_instance(b, "VEXOR_ComputerSystem", ns, &element, nullptr); }},
+      {"VEXOR_ComputerSystem", true,
+       [](Builder& b) { switch_instance(b, "VEXOR_ComputerSystem", ns, &domain, nullptr); }},
+      {"VEXOR_PhysicalComputerSystem", false,
+       [](Builder& b) { switch_reference(b, "VEXOR_PhysicalComputerSystem", ns, wwn); }},
+      {"VEXOR_PhysicalComputerSystem", true,
+       [](Builder& b) { switch_instance(b, "VEXOR_PhysicalComputerSystem", ns, wwn, 0, nullptr); }},
+      {"VEXOR_PhysicalComputerSystem", true,
+       [](Builder& b) {
+         switch_instance(b, "VEXOR_PhysicalComputerSystem", ns, &element, nullptr);
+       }},
+      {"VEXOR_PhysicalComputerSystem", true,
+       [](Builder& b) {
+         switch_instance(b, "VEXOR_PhysicalComputerSystem", ns, &domain, nullptr);
+       }},
+      {"VEXOR_LogicalComputerSystem", false,
+       [](Builder& b) { switch_reference(b, "VEXOR_LogicalComputerSystem", ns, wwn); }},
+      {"VEXOR_LogicalComputerSystem", true,
+       [](Builder& b) { switch_instance(b, "VEXOR_LogicalComputerSystem", ns, wwn, 0, nullptr); }},
+      {"VEXOR_LogicalComputerSystem", true,
+       [](Builder& b) {
+         switch_instance(b, "VEXOR_LogicalComputerSystem", ns, &element, nullptr);
+       }},
+      {"VEXOR_LogicalComputerSystem", true,
+       [](Builder& b) { switch_instance(b, "VEXOR_LogicalComputerSystem", ns, &domain, nullptr); }},
+      {"VEXOR_Component", false,
+       [](Builder& b) { component_reference(b, "VEXOR_Component", ns, &vsan, &conf, &element); }},
+      {"VEXOR_Component", true,
+       [](Builder& b) { component_instance(b, "VEXOR_Component", ns, &vsan, &conf, &element); }},
+      {"VEXOR_FCSwitchCapabilities", false,
+       [](Builder& b) { switch_capabilities_reference(b, "VEXOR_FCSwitchCapabilities", ns); }},
+      {"VEXOR_FCSwitchCapabilities", true,
+       [](Builder& b) {
+         switch_capabilities_instance(b, "VEXOR_FCSwitchCapabilities", ns, nullptr);
+       }},
+      {"VEXOR_FCSwitchSettings", false,
+       [](Builder& b) { switch_settings_reference(b, "VEXOR_FCSwitchSettings", ns); }},
+      {"VEXOR_FCSwitchSettings", true,
+       [](Builder& b) { switch_settings_instance(b, "VEXOR_FCSwitchSettings", ns, nullptr); }},
   };
   return all;
 }
@@ -47,12 +96,14 @@ const std::vector<Description>& descriptions() {
 // Every service answers with what has all properties.
 test_support::Response answer(const test_support::Request& request) {
   if (request.opcode == 264) return test_support::Response::with(records::domain_configuration_1());
+  if (request.opcode == 1282) return test_support::Response::with(records::own_wwn());
   if (request.opcode == 149) return test_support::Response::with(records::vsan_1(1));
   return test_support::Response::failed(17);
 }
 
 ListingBuilder::Listed written(const Description& description, Face face) {
   test_support::OsDouble system;
+  system.address("switch-1", 10, 0, 0, 1);
   test_support::StdioCapture traces;
   test_support::Responder services(answer);
   ListingBuilder builder(face);
