@@ -46,3 +46,15 @@ CMPIObjectPath* contained_domain_fill_reference(const char* className, const cha
   CmpiBuilder builder(broker);
   return to_cmpi(model::contained_domain_reference(builder, className, nameSpace, vsan, swConf));
 }
+
+CMPIInstance* connectivity_collection_build_instance(const char* className, const char* nameSpace,
+                                                     int number, const CMPIBroker* broker) {
+  CmpiBuilder builder(broker);
+  return to_cmpi(model::connectivity_collection_instance(builder, className, nameSpace, number));
+}
+
+CMPIObjectPath* connectivity_collection_fill_reference(const char* className, const char* nameSpace,
+                                                       int number, const CMPIBroker* broker) {
+  CmpiBuilder builder(broker);
+  return to_cmpi(model::connectivity_collection_reference(builder, className, nameSpace, number));
+}

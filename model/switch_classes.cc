@@ -56,6 +56,12 @@ VsanName vsan_name(const vsanNewEntry_t& vsan, const mts_dm_sw_conf_* conf) {
   return name;
 }
 
+// The text of a collection's number: at most 15 characters.
+struct CollectionId {
+  explicit CollectionId(int number) { std::snprintf(text, sizeof text, "%d", number); }
+  char text[16];
+};
+
 }  // namespace
 
 Ref fabric_reference(Builder& b, const char* cls, const char* ns) {
@@ -155,6 +161,23 @@ Object contained_domain_instance(Builder& b, const char* cls, const char* ns,
   out->reference("GroupComponent", fabric);
   out->reference("PartComponent", part);
   if (b.instances_have_paths()) out->path(contained_domain_reference(b, cls, ns, vsan, conf));
+  return b.close_instance(out);
+}
+
+Ref connectivity_collection_reference(Builder& b, const char* cls, const char* ns, int number) {
+  auto [out, ref] = b.open_path(cls, ns, BadPath::as_it_came);
+  if (out == nullptr) return ref;
+  out->text("InstanceID", CollectionId(number).text);
+  return b.close_path(out);
+}
+
+Object connectivity_collection_instance(Builder& b, const char* cls, const char* ns, int number) {
+  const KeyNames keys(b, {"InstanceID"});
+  if (!keys) return {};
+  ObjectWriter* out = b.open_instance(cls, ns, keys, Filter::ignored, nullptr);
+  if (out == nullptr) return {};
+  out->text("InstanceID", CollectionId(number).text);
+  if (b.instances_have_paths()) out->path(connectivity_collection_reference(b, cls, ns, number));
   return b.close_instance(out);
 }
 

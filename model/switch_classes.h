@@ -25,4 +25,8 @@ Ref contained_domain_reference(Builder& b, const char* cls, const char* ns,
 Object contained_domain_instance(Builder& b, const char* cls, const char* ns,
                                  const vsanNewEntry_t* vsan, const mts_dm_sw_conf_* conf);
 
+// The connectivity of a group of ports, known by a number.
+Ref connectivity_collection_reference(Builder& b, const char* cls, const char* ns, int number);
+Object connectivity_collection_instance(Builder& b, const char* cls, const char* ns, int number);
+
 }  // namespace cim_utils::model

@@ -65,3 +65,24 @@ CIMObject ProviderUtil::contained_domain_build_object(const String& className,
                                                       mts_dm_sw_conf_* swConf) {
   return CIMObject(contained_domain_build_instance(className, nameSpace, vsan, swConf));
 }
+
+CIMObjectPath ProviderUtil::connectivity_collection_fill_reference(const char* className,
+                                                                   const String& nameSpace,
+                                                                   int number) {
+  PegasusBuilder builder;
+  return to_pegasus(
+      model::connectivity_collection_reference(builder, className, nameSpace.getCString(), number));
+}
+
+CIMInstance ProviderUtil::connectivity_collection_build_instance(const char* className,
+                                                                 const String& nameSpace,
+                                                                 int number) {
+  PegasusBuilder builder;
+  return to_pegasus(
+      model::connectivity_collection_instance(builder, className, nameSpace.getCString(), number));
+}
+
+CIMObject ProviderUtil::connectivity_collection_build_object(const char* className,
+                                                             const String& nameSpace, int number) {
+  return CIMObject(connectivity_collection_build_instance(className, nameSpace, number));
+}

@@ -1,5 +1,7 @@
 #include "providers/class_table.h"
 
+#include <cim_utils/cmpi_switch.h>
+
 #include "providers/fabric.h"
 #include "providers/vsan.h"
 
@@ -25,6 +27,22 @@ constexpr RecordClass<VsanRecord> kVsan{{
     .find = vsans_named,
 }};
 
+constexpr RecordClass<VsanRecord> kConnectivityCollection{{
+    .name = "VEXOR_ConnectivityCollection",
+    .keys = {"InstanceID"},
+    .list = all_vsans,
+    .reference =
+        [](const Target& to, const VsanRecord& vsan) {
+          return connectivity_collection_fill_reference(
+              to.class_name, to.name_space, static_cast<int>(vsan.entry.vsan_index), to.broker);
+        },
+    .instance =
+        [](const Target& to, const VsanRecord& vsan) {
+          return connectivity_collection_build_instance(
+              to.class_name, to.name_space, static_cast<int>(vsan.entry.vsan_index), to.broker);
+        },
+}};
+
 constexpr RecordClass<VsanRecord> kContainedDomain{{
     .name = "VEXOR_ContainedDomain",
     .keys = {"GroupComponent", "PartComponent"},
@@ -43,6 +61,7 @@ constexpr RecordClass<VsanRecord> kContainedDomain{{
 
 constexpr const Class* kClasses[] = {
     &kAdminDomain,
+    &kConnectivityCollection,
     &kContainedDomain,
     &kVsan,
 };

@@ -49,6 +49,17 @@ CIM_UTILS_EXPORT CMPIObjectPath* contained_domain_fill_reference(const char* cla
                                                                  const mts_dm_sw_conf_* swConf,
                                                                  const CMPIBroker* broker);
 
+/* The connectivity of a group of ports, known by a number: key and only property "InstanceID", its
+ * decimal text. Asks no service. */
+CIM_UTILS_EXPORT CMPIInstance* connectivity_collection_build_instance(const char* className,
+                                                                      const char* nameSpace,
+                                                                      int number,
+                                                                      const CMPIBroker* broker);
+CIM_UTILS_EXPORT CMPIObjectPath* connectivity_collection_fill_reference(const char* className,
+                                                                        const char* nameSpace,
+                                                                        int number,
+                                                                        const CMPIBroker* broker);
+
 #ifdef __cplusplus
 }
 #endif

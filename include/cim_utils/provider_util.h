@@ -122,6 +122,15 @@ class CIM_UTILS_EXPORT ProviderUtil {
                                               const Pegasus::String& nameSpace,
                                               vsanNewEntry_t* vsan, mts_dm_sw_conf_* swConf);
 
+  // The connectivity of a group of ports, known by a number.
+  static Pegasus::CIMObjectPath connectivity_collection_fill_reference(
+      const char* className, const Pegasus::String& nameSpace, int number);
+  static Pegasus::CIMInstance connectivity_collection_build_instance(
+      const char* className, const Pegasus::String& nameSpace, int number);
+  static Pegasus::CIMObject connectivity_collection_build_object(const char* className,
+                                                                 const Pegasus::String& nameSpace,
+                                                                 int number);
+
   // A VSAN in the fabric.
   static Pegasus::CIMObjectPath contained_domain_fill_reference(const Pegasus::String& className,
                                                                 const Pegasus::String& nameSpace,

@@ -286,4 +286,51 @@ TEST_F(CmpiSwitch, AContainedDomainLeavesOutAnEndThatTheBrokerDidNotGive) {
   EXPECT_EQ(broker_.property_names(instance), std::vector<std::string>{"PartComponent"});
 }
 
+TEST_F(CmpiSwitch, AConnectivityCollectionIsKnownByItsNumber) {
+  ASSERT_NE(connectivity_collection_build_instance("VEXOR_ConnectivityCollection", kNamespace, 10,
+                                                   broker_),
+            nullptr);
+  ASSERT_NE(connectivity_collection_fill_reference("VEXOR_ConnectivityCollection", kNamespace,
+                                                   -2147483647 - 1, broker_),
+            nullptr);
+  expect_transcript(out_.out(), "cmpi_connectivity_collection.txt");
+}
+
+TEST_F(CmpiSwitch, AConnectivityCollectionOfABadPathOrInstanceIsNone) {
+  const auto instance = [this] {
+    return connectivity_collection_build_instance("VEXOR_ConnectivityCollection", kNamespace, 10,
+                                                  broker_);
+  };
+  const auto path = [this] {
+    return connectivity_collection_fill_reference("VEXOR_ConnectivityCollection", kNamespace, 10,
+                                                  broker_);
+  };
+  for (const Failure how : {Failure::null_object, Failure::null_handle}) {
+    broker_.fail_nth_path(1, how);
+    EXPECT_EQ(instance(), nullptr);
+    broker_.fail_nth_instance(1, how);
+    EXPECT_EQ(instance(), nullptr);
+  }
+  broker_.fail_nth_path(1, Failure::null_object);
+  EXPECT_EQ(path(), nullptr);
+  broker_.fail_nth_path(1, Failure::null_handle);
+  CMPIObjectPath* unusable = path();
+  ASSERT_NE(unusable, nullptr);
+  EXPECT_EQ(unusable->hdl, nullptr);
+}
+
+TEST_F(CmpiSwitch, EveryFailingAllocationOfAConnectivityCollectionGivesNone) {
+  broker_.write_down(false);
+  const size_t rounds = for_every_failing_allocation(
+      [this](FailingAllocation& round) {
+        CMPIInstance* instance = round.attempt([this] {
+          return connectivity_collection_build_instance("VEXOR_ConnectivityCollection", kNamespace,
+                                                        10, broker_);
+        });
+        EXPECT_EQ(instance == nullptr, round.was_hit());
+      },
+      Heap::c);
+  EXPECT_EQ(rounds, 3u);
+}
+
 }  // namespace

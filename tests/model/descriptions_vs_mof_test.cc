@@ -39,6 +39,14 @@ const std::vector<Description>& descriptions() {
       {"VEXOR_Vsan", false, [](Builder& b) { vsan_reference(b, "VEXOR_Vsan", ns, &vsan, &conf); }},
       {"VEXOR_Vsan", true,
        [](Builder& b) { vsan_instance(b, "VEXOR_Vsan", ns, &vsan, &conf, nullptr); }},
+      {"VEXOR_ConnectivityCollection", false,
+       [](Builder& b) {
+         connectivity_collection_reference(b, "VEXOR_ConnectivityCollection", ns, 5);
+       }},
+      {"VEXOR_ConnectivityCollection", true,
+       [](Builder& b) {
+         connectivity_collection_instance(b, "VEXOR_ConnectivityCollection", ns, 5);
+       }},
       {"VEXOR_ContainedDomain", false,
        [](Builder& b) {
          contained_domain_reference(b, "VEXOR_ContainedDomain", ns, &vsan, &conf);

@@ -109,6 +109,19 @@ TEST_F(PegasusSwitch, AContainedDomainsReferenceHoldsBothEnds) {
   EXPECT_EQ(path.getKeyBindings()[0].getType(), Pegasus::CIMKeyBinding::REFERENCE);
 }
 
+TEST_F(PegasusSwitch, AConnectivityCollectionIsKnownByItsNumber) {
+  classes_.define("VEXOR_ConnectivityCollection", {"InstanceID"}, {});
+  const CIMObject object = ProviderUtil::connectivity_collection_build_object(
+      "VEXOR_ConnectivityCollection", kNamespace, 10);
+  EXPECT_EQ(pegasus_text::of(CIMInstance(object)),
+            "instance VEXOR_ConnectivityCollection\n"
+            "  [Version]\n"
+            "property InstanceID string 10\n"
+            "  [Key]\n"
+            "path HOST root/cimv2 VEXOR_ConnectivityCollection\n"
+            "key InstanceID = 10\n");
+}
+
 TEST_F(PegasusSwitch, AnObjectIsTheInstance) {
   const CIMObject object =
       ProviderUtil::vsan_build_object("VEXOR_Vsan", kNamespace, &vsan_, &conf_);
