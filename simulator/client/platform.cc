@@ -115,7 +115,9 @@ Outcome Platform::change(const Request& request) {
 
 int32_t Platform::bind() {
   const int32_t q = next_queue_++;
-  queues_.emplace(q, Queue{open_carrier(), open_carrier(), 0});
+  Queue& queue = queues_[q];
+  queue.synchronous = open_carrier();
+  queue.asynchronous = open_carrier();
   return q;
 }
 

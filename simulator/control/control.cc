@@ -98,8 +98,8 @@ void clear_log() {
   locked([](Platform& platform) { platform.log().clear(); });
 }
 
-void set_faults(std::vector<Fault> faults) {
-  locked([&](Platform& platform) { platform.faults().set(std::move(faults)); });
+void set_faults(const std::vector<Fault>& faults) {
+  locked([&](Platform& platform) { platform.faults().set(faults); });
 }
 
 std::optional<std::string> replay(const std::string& recording) {

@@ -51,7 +51,7 @@ std::vector<Exchange> log();
 void clear_log();
 
 // Faults from now on, in place of earlier ones.
-void set_faults(std::vector<Fault> faults);
+void set_faults(const std::vector<Fault>& faults);
 
 // Answers from a recording (the text of a trace file) instead of the services. The result tells
 // what is wrong with the text, with its line.

@@ -4,7 +4,6 @@
 #define SIMULATOR_FABRIC_FABRIC_H
 
 #include <array>
-#include <compare>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -23,7 +22,8 @@ inline constexpr size_t kLongestObjectId = 256;
 // A World Wide Name, most significant byte first.
 struct Wwn {
   std::array<uint8_t, 8> bytes{};
-  friend std::strong_ordering operator<=>(const Wwn&, const Wwn&) = default;
+  friend bool operator==(const Wwn&, const Wwn&) = default;
+  friend bool operator<(const Wwn& left, const Wwn& right) { return left.bytes < right.bytes; }
 };
 
 // A management address: IPv4 in the first four bytes, or IPv6.

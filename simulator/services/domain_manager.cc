@@ -141,7 +141,7 @@ Outcome domain_database(const Request& request, Fabric& fabric, VirtualTime /*no
   if (reader.u8(4) != 1) return refuse(status::kBadValue);
   DatabaseRow row;
   if (request.operation == kGet) {
-    const Outcome refused = exact_row(fabric, reader.be32(0), reader.u8(5), &row);
+    Outcome refused = exact_row(fabric, reader.be32(0), reader.u8(5), &row);
     if (refused.status != status::kOk) return refused;
   } else if (request.operation == kGetNext) {
     row = next_row(fabric, reader.be32(0), reader.u8(5));

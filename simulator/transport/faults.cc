@@ -42,9 +42,9 @@ void apply(const Fault& fault, Outcome& outcome) {
 
 }  // namespace
 
-void FaultPlan::set(std::vector<Fault> faults) {
+void FaultPlan::set(const std::vector<Fault>& faults) {
   entries_.clear();
-  for (Fault& fault : faults)
+  for (const Fault& fault : faults)
     entries_.push_back({fault, 0});
 }
 

@@ -32,7 +32,7 @@ struct Fault {
 // The plan of a process: faults in order, of which the first that fits a request is applied.
 class FaultPlan {
  public:
-  void set(std::vector<Fault> faults);
+  void set(const std::vector<Fault>& faults);
 
   // The fault for a request; counts it.
   std::optional<Fault> next_for(const Request& request);
