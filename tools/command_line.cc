@@ -22,35 +22,63 @@ constexpr const char* kExamples =
     "  vexor-cim classes                               what can be enumerated\n"
     "  vexor-cim class VEXOR_Vsan                      what a VSAN has: keys, properties, types\n"
     "  vexor-cim enumerate VEXOR_Vsan                  all VSANs, one a line\n"
-    "  vexor-cim enumerate VEXOR_Vsan --properties VsanId,Status\n"
     "  vexor-cim enumerate VEXOR_Vsan --format json    the same for a program\n"
     "  vexor-cim enumerate VEXOR_Vsan --names          the paths that `get` takes\n"
     "  vexor-cim get 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"'\n"
     "  vexor-cim -v enumerate VEXOR_Vsan               with the traces of the library\n"
     "\n"
     "Exit status: 0 success, 1 the operation failed, 2 the command line or an input is wrong.\n"
-    "Environment: VEXOR_MOF and VEXOR_PROVIDERS stand for --mof and --providers.\n";
+    "Environment: VEXOR_MOF and VEXOR_PROVIDERS stand for --mof and --providers.\n"
+    "Every command has a help of its own: vexor-cim enumerate --help";
+
+constexpr const char* kClassExamples =
+    "Examples:\n"
+    "  vexor-cim class VEXOR_Vsan\n"
+    "  vexor-cim class CIM_AdminDomain       a class that others derive from";
+
+constexpr const char* kEnumerateExamples =
+    "Without --properties a table leaves out what says nothing: properties without a value, and\n"
+    "CreationClassName, SystemCreationClassName, SystemName, NameFormat, Caption and Description.\n"
+    "\n"
+    "Examples:\n"
+    "  vexor-cim enumerate VEXOR_Vsan\n"
+    "  vexor-cim enumerate VEXOR_Vsan --properties VsanId,Status\n"
+    "  vexor-cim enumerate VEXOR_ContainedDomain --format mof\n"
+    "  vexor-cim enumerate CIM_AdminDomain   VSANs and the fabric: all that derive from it";
+
+constexpr const char* kGetExamples =
+    "Examples:\n"
+    "  vexor-cim get 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"'\n"
+    "  vexor-cim get 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"' --properties Status --format json";
 
 void add_global_options(CLI::App& app, Options& options) {
-  app.add_option("--namespace", options.name_space, "CIM namespace")
-      ->type_name("NAME")
-      ->capture_default_str();
-  app.add_option("--trace", options.trace_file,
-                 "write the traces of the library to FILE (they are discarded otherwise)")
+  app.add_option("--namespace", options.name_space, "CIM namespace (root/cimv2)")
+      ->type_name("NAME");
+  app.add_option("--trace", options.trace_file, "write the traces of the library to FILE")
       ->type_name("FILE");
-  app.add_flag("-v,--verbose", options.verbose, "show the traces on standard error");
+  app.add_flag("-v,--verbose", options.verbose, "show the traces of the library on standard error");
   app.add_option("--mof", options.mof, "class definitions: a MOF file, or a folder with vexor.mof")
       ->type_name("PATH");
   app.add_option("--providers", options.providers, "provider library")->type_name("FILE");
 }
 
-void add_output_options(CLI::App& command, std::vector<std::string>& properties, Options& options) {
+/// The names between the commas.
+std::vector<std::string> split(const std::string& list) {
+  std::vector<std::string> names;
+  std::istringstream in(list + ",");
+  for (std::string name; std::getline(in, name, ',');) {
+    if (name.empty()) throw CLI::ValidationError("--properties", "a name is missing");
+    names.push_back(name);
+  }
+  return names;
+}
+
+void add_output_options(CLI::App& command, Options& options) {
   command
-      .add_option("--properties", properties,
-                  "only these properties, in this order, separated by commas")
-      ->type_name("A,B")
-      ->delimiter(',')
-      ->allow_extra_args(false);
+      .add_option_function<std::string>(
+          "--properties", [&options](const std::string& list) { options.properties = split(list); },
+          "only these properties, in this order, separated by commas")
+      ->type_name("A,B");
   static const std::map<std::string, Format> kFormats = {
       {"table", Format::table}, {"mof", Format::mof}, {"json", Format::json}};
   command
@@ -99,33 +127,42 @@ std::string one_line(std::string text) {
 
 Parsed parse_command_line(int argc, const char* const* argv) {
   Options options;
-  std::vector<std::string> properties;
   CLI::App app(kDescription, "vexor-cim");
   app.footer(kExamples);
   app.require_subcommand(1);
   app.fallthrough();
-  app.set_version_flag("--version", "vexor-cim " VEXOR_VERSION);
+  app.set_version_flag("--version", "vexor-cim " VEXOR_VERSION, "print the version");
+  app.set_help_flag("-h,--help", "print this help");
+  app.get_formatter()->label("SUBCOMMAND", "COMMAND");
+  app.get_formatter()->label("REQUIRED", "");
   add_global_options(app, options);
 
   CLI::App* const classes = app.add_subcommand("classes", "list the classes that have providers");
+  classes->footer("");
   classes->add_flag("--all", options.all, "list abstract and other classes, too");
 
-  CLI::App* const show = app.add_subcommand(
-      "class", "print a class as MOF; what it inherits is marked with the class it is from");
-  show->add_option("NAME", options.target, "class")->required();
+  CLI::App* const show = app.add_subcommand("class", "print a class as MOF, with what it inherits");
+  show->footer(kClassExamples);
+  show->add_option("NAME", options.target, "name of a class")->required()->type_name("");
 
   CLI::App* const enumerate = app.add_subcommand(
       "enumerate", "print the instances of a class and of those derived from it");
-  enumerate->add_option("CLASS", options.target, "class")->required();
+  enumerate->footer(kEnumerateExamples);
+  enumerate->add_option("CLASS", options.target, "name of a class")->required()->type_name("");
   enumerate->add_flag("--names", options.names, "print the paths of the instances only");
-  add_output_options(*enumerate, properties, options);
+  add_output_options(*enumerate, options);
 
   CLI::App* const get = app.add_subcommand("get", "print one instance");
+  get->footer(kGetExamples);
   get->add_option("PATH", options.target,
-                  "its path, as enumerate --names prints it: Class.Key=\"text\",Key=number. The "
-                  "namespace and the key CreationClassName may be left out")
-      ->required();
-  add_output_options(*get, properties, options);
+                  "its path, as enumerate --names prints it; the namespace and the key\n"
+                  "CreationClassName may be left out")
+      ->required()
+      ->type_name("");
+  add_output_options(*get, options);
+
+  for (CLI::App* command : {classes, show, enumerate, get})
+    command->group("Commands");
 
   try {
     app.parse(argc, argv);
@@ -135,16 +172,15 @@ Parsed parse_command_line(int argc, const char* const* argv) {
       app.exit(error, out, out);
       return {std::nullopt, out.str(), kSuccess};
     }
-    if (argc < 2) return refused("a command is needed");
     const std::string unknown = unknown_command(app, argc, argv);
-    return refused(unknown.empty() ? one_line(error.what()) : unknown);
+    if (!unknown.empty()) return refused(unknown);
+    if (app.get_subcommands().empty()) return refused("a command is needed");
+    return refused(one_line(error.what()));
   }
 
   if (show->parsed()) options.command = Command::show_class;
   if (enumerate->parsed()) options.command = Command::enumerate;
   if (get->parsed()) options.command = Command::get;
-  if (enumerate->count("--properties") + get->count("--properties") > 0)
-    options.properties = properties;
   if (options.names && options.properties)
     return refused("--names prints paths, which --properties cannot choose from");
   if (options.names && options.format == Format::mof)
