@@ -5,6 +5,8 @@
 #include "providers/fabric.h"
 #include "providers/vsan.h"
 
+// To add a class: write its functions in a source of its own, describe it here with a RecordClass,
+// and name it in kClasses. What a description may hold stands in class.h.
 namespace vexor::providers {
 namespace {
 

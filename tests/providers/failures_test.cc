@@ -182,6 +182,21 @@ TEST_F(ProviderFailures, APropertyThatTheBrokerRefusesIsMissingAndNothingElse) {
                    "LoadBalancingType=\"src-id/dst-id/ox-id\"}"}));
 }
 
+TEST_F(ProviderFailures, ALockThatCannotBeTakenFailsTheRequestBeforeTheSwitchIsAsked) {
+  const pthread_mutex_t checking = PTHREAD_ERRORCHECK_MUTEX_INITIALIZER_NP;
+  const pthread_mutex_t plain = PTHREAD_MUTEX_INITIALIZER;
+  global_mutex = checking;
+  ASSERT_EQ(mutex_lock(), 0);  // a second lock on this thread is an error now
+  Returned returned;
+  const CMPIStatus status = instances_->ft->enumerateInstanceNames(
+      instances_, nullptr, broker_.result(returned), broker_.path("VEXOR_Vsan"));
+  ASSERT_EQ(mutex_unlock(), 0);
+  global_mutex = plain;
+  EXPECT_EQ(status.rc, CMPI_RC_ERR_FAILED);
+  EXPECT_EQ(broker_.text(status.msg), "the lock cannot be taken (error 35)");
+  EXPECT_EQ(switch_.calls(), 0u);
+}
+
 TEST_F(ProviderFailures, AProviderObjectThatCannotBeAllocatedIsNullWithAReason) {
   const auto expect_reason = [this](auto factory) {
     CMPIStatus status{CMPI_RC_OK, nullptr};
