@@ -57,8 +57,9 @@ const Class* Request::class_named(const char* name) const {
 
 const Class& Request::own_class() const {
   const Class* cls = class_named(class_name_.c_str());
+  // The class may well exist, and others may serve it: an object manager goes on without this one.
   if (cls == nullptr)
-    throw Failure(CMPI_RC_ERR_INVALID_CLASS, "\"%s\" is not a class of this provider",
+    throw Failure(CMPI_RC_ERR_NOT_SUPPORTED, "\"%s\" is not a class of this provider",
                   class_name_.c_str());
   return *cls;
 }
