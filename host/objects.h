@@ -197,20 +197,22 @@ Face* make(Broker& broker, typename Traits<Face>::Content content) {
 /// A status whose text lives as long as the request; without a request it has no text.
 CMPIStatus make_status(CMPIrc code, const std::string& text);
 
-/// Runs the body of a table function: *rc gets the outcome, and a failure yields `failed`.
+/// Runs the body of a table function: *rc gets the outcome, and a failure yields `failed`. The two
+/// results never share a variable: g++ 12 lets a body that throws write into it.
 template <class Result, class Body>
-Result guarded(CMPIStatus* rc, Result failed, Body&& body) noexcept {
+Result guarded(CMPIStatus* rc, const Result& failed, Body&& body) noexcept {
   CMPIStatus status{CMPI_RC_OK, nullptr};
-  Result result = failed;
   try {
-    result = body();
+    const Result result = body();
+    if (rc != nullptr) *rc = status;
+    return result;
   } catch (const CimError& error) {
     status = make_status(error.code(), error.what());
   } catch (const std::exception& error) {
     status = make_status(CMPI_RC_ERR_FAILED, error.what());
   }
   if (rc != nullptr) *rc = status;
-  return result;
+  return failed;
 }
 
 /// The same for functions that return a status.

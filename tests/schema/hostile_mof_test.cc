@@ -93,10 +93,11 @@ TEST(HostileMof, Every_beginning_of_a_text_is_read_without_a_crash) {
   ASSERT_GT(text.size(), 1000U);
   ReadOptions options;
   options.read_file = [](const std::string&, std::size_t) -> FileContent { return {"", {}}; };
+  const std::size_t classes = read_mof_text(text, "t.mof", options).classes.size();
   for (std::size_t length = 0; length < text.size(); ++length) {
     const Document document =
         read_mof_text(std::string_view(text).substr(0, length), "t.mof", options);
-    EXPECT_LE(document.classes.size(), 3U) << length;
+    EXPECT_LE(document.classes.size(), classes) << length;
     EXPECT_LE(document.errors.size(), 2U) << length;
   }
 }
