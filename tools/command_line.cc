@@ -19,7 +19,7 @@ constexpr const char* kDescription =
 
 constexpr const char* kExamples =
     "Examples:\n"
-    "  vexor-cim classes                               what can be enumerated\n"
+    "  vexor-cim classes                               the classes of the agent\n"
     "  vexor-cim class VEXOR_Vsan                      what a VSAN has: keys, properties, types\n"
     "  vexor-cim enumerate VEXOR_Vsan                  all VSANs, one a line\n"
     "  vexor-cim enumerate VEXOR_Vsan --format json    the same for a program\n"
@@ -137,9 +137,9 @@ Parsed parse_command_line(int argc, const char* const* argv) {
   app.get_formatter()->label("REQUIRED", "");
   add_global_options(app, options);
 
-  CLI::App* const classes = app.add_subcommand("classes", "list the classes that have providers");
+  CLI::App* const classes = app.add_subcommand("classes", "list the classes of the agent");
   classes->footer("");
-  classes->add_flag("--all", options.all, "list abstract and other classes, too");
+  classes->add_flag("--all", options.all, "list the classes that they derive from, too");
 
   CLI::App* const show = app.add_subcommand("class", "print a class as MOF, with what it inherits");
   show->footer(kClassExamples);

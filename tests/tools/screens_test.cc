@@ -98,8 +98,12 @@ TEST_F(Screens, Get_takes_every_path_that_enumerate_names_prints) {
   }
 }
 
-TEST_F(Screens, Classes_lists_what_can_be_enumerated) {
-  expect_screen("classes.txt", {"classes"});
+TEST_F(Screens, Classes_lists_the_classes_of_the_agent) {
+  const Outcome outcome = run({"classes"});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_TRUE(outcome.out.starts_with("Class ")) << outcome.out;
+  EXPECT_NE(outcome.out.find("\nVEXOR_Vsan "), std::string::npos) << outcome.out;
+  EXPECT_EQ(outcome.out.find("\nCIM_"), std::string::npos) << outcome.out;
 }
 
 // --- Classes of a model of its own ---------------------------------------------------------------
@@ -137,6 +141,10 @@ class OwnModel : public ProgramTest {
 
 TEST_F(OwnModel, Class_prints_MOF_with_what_it_inherits_marked) {
   expect_screen("class_thing.mof", {"class", "vexor_thing", "--mof", mof_});
+}
+
+TEST_F(OwnModel, Classes_lists_the_classes_of_the_agent_with_their_kinds) {
+  expect_screen("classes.txt", {"--mof", mof_, "classes"});
 }
 
 TEST_F(OwnModel, Classes_all_lists_every_class_with_its_kind) {
