@@ -17,6 +17,8 @@ template <class... Visitors>
 struct Overloaded : Visitors... {
   using Visitors::operator()...;
 };
+template <class... Visitors>
+Overloaded(Visitors...) -> Overloaded<Visitors...>;
 
 bool equal_paths(const ObjectPath& a, const ObjectPath& b) {
   return a.host == b.host && same_instance(a, b);

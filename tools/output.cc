@@ -225,6 +225,7 @@ std::string instance_list(const Repository& repository, const Instance& instance
     }
   }
   std::vector<std::vector<std::string>> rows;
+  rows.reserve(names.size());
   for (const std::string& name : names)
     rows.push_back({name, cell(instance.find(name))});
   return cim::host::to_text(instance.path) + "\n" + columns_text(rows);
