@@ -52,7 +52,7 @@ TEST_F(ProviderAssociations, TheFabricIsComparedOnceForAllItsVsans) {
 }
 
 TEST_F(ProviderAssociations, AVsansFabricIsFoundWithoutReadingTheOtherVsans) {
-  associator_names(vsan_path("2002000DEC0A1B2D"), {});
+  associator_names(vsan_path("2002000DEC0A1B2D"), {.association = "VEXOR_ContainedDomain"});
   EXPECT_EQ(switch_.calls(kCountOpcode), 0u);
   EXPECT_EQ(switch_.calls(kVsanOpcode), 1u);
   EXPECT_EQ(switch_.calls(kDomainOpcode), 1u + 1u);

@@ -77,4 +77,20 @@ TEST_F(ProviderCosts, TheFabricsVsansAreFoundWithOneExchangeMoreThanTheirList) {
   EXPECT_EQ(ten.calls(), 1u + 10u + 10u + 1u);
 }
 
+TEST_F(ProviderCosts, SwitchesAreListedWithTwoExchangesPerVsanAndOnePerSwitchInIt) {
+  SwitchDouble ten(10);
+  for (uint32_t vsan = 1; vsan <= 10; ++vsan)
+    for (uint8_t domain = 1; domain <= 3; ++domain) {
+      char wwn[24];
+      std::snprintf(wwn, sizeof wwn, "20%02x000dec0a1b%02x", vsan, 0x2c + domain);
+      ten.add_switch(vsan, wwn, domain);
+    }
+  EXPECT_EQ(names("VEXOR_LogicalComputerSystem").returned.paths.size(), 30u);
+  // The VSANs, their lists, the read that ends the walk, the elements.
+  EXPECT_EQ(ten.calls(), 10u + 10u + 1u + 30u);
+  EXPECT_EQ(names("VEXOR_PhysicalComputerSystem").returned.paths.size(), 3u);
+  // Once more that and the own switch's WWN.
+  EXPECT_EQ(ten.calls(), 2 * (10u + 10u + 1u + 30u) + 1u);
+}
+
 }  // namespace

@@ -104,6 +104,18 @@ class ProviderFixture : public testing::Test {
       return instances_->ft->getInstance(instances_, nullptr, result, path, properties);
     });
   }
+  Outcome modify(const CMPIObjectPath* path, const CMPIInstance* values,
+                 const char** properties = nullptr) {
+    return ask([&](const CMPIResult* result) {
+      return instances_->ft->modifyInstance(instances_, nullptr, result, path, values, properties);
+    });
+  }
+  Outcome invoke(const CMPIObjectPath* path, const char* method, const CMPIArgs* in,
+                 CMPIArgs* out) {
+    return ask([&](const CMPIResult* result) {
+      return methods_->ft->invokeMethod(methods_, nullptr, result, path, method, in, out);
+    });
+  }
   struct Filter {
     const char* association = nullptr;
     const char* result_class = nullptr;

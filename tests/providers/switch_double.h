@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "tests/support/double_cmi.h"
 
@@ -13,6 +15,11 @@ namespace provider_tests {
 inline constexpr uint32_t kCountOpcode = 125;
 inline constexpr uint32_t kVsanOpcode = 149;
 inline constexpr uint32_t kDomainOpcode = 264;
+inline constexpr uint32_t kSystemNameOpcode = 878;
+inline constexpr uint32_t kIdentityOpcode = 1282;
+inline constexpr uint32_t kElementsOpcode = 1401;
+inline constexpr uint32_t kElementOpcode = 1402;
+inline constexpr int32_t kNoSuchElement = 0x40350004;
 inline constexpr int32_t kNoSuchVsan = 0x40330005;
 
 class SwitchDouble {
@@ -28,6 +35,8 @@ class SwitchDouble {
   ~SwitchDouble() {
     const test_support::HeapLedger::Pause pause;
     vsans_.clear();
+    elements_.clear();
+    changes_.clear();
   }
 
   // A suspended VSAN is down and has no domain manager.
@@ -36,6 +45,23 @@ class SwitchDouble {
   void alternate_wwn(uint32_t number, const char* wwn) { vsans_[number].alternate = wwn; }
   void remove(uint32_t number) { vsans_.erase(number); }
   void domain_manager_refuses(uint32_t number) { vsans_[number].refused = true; }
+
+  // A switch in a VSAN. The VSANs have none at first.
+  void add_switch(uint32_t vsan, const char* wwn, uint8_t domain) {
+    elements_.push_back({vsan, test_support::hex(wwn), domain});
+  }
+  // How the own switch, 2000000DEC0A1B2C, is set in every VSAN: domain 33, not locked, priority 128
+  // at first.
+  void configure(uint8_t domain, uint8_t type, uint8_t priority) {
+    domain_ = domain;
+    type_ = type;
+    priority_ = priority;
+  }
+  // What changes are answered with.
+  void answer_changes(int32_t status) { change_status_ = status; }
+  // The requests that were to change something, in their order, with their opcodes.
+  using Change = std::pair<uint32_t, test_support::Bytes>;
+  const std::vector<Change>& changes() const { return changes_; }
 
   test_support::Responder& responder() { return responder_; }
   size_t calls(uint32_t opcode) const { return responder_.calls(opcode); }
@@ -50,6 +76,10 @@ class SwitchDouble {
 
   test_support::Response answer(const test_support::Request& request) {
     const test_support::HeapLedger::Pause pause;
+    if (request.operation == 3) {
+      changes_.emplace_back(request.opcode, *request.body);
+      return test_support::Response::failed(change_status_);
+    }
     switch (request.opcode) {
       case kCountOpcode:
         return test_support::Response::with(
@@ -67,6 +97,12 @@ class SwitchDouble {
           return test_support::Response::failed(kNoSuchVsan);
         return test_support::Response::with(configuration(found->first, found->second));
       }
+      case kIdentityOpcode:
+        return test_support::Response::with(test_support::hex("20 00 00 0d ec 0a 1b 2c"));
+      case kElementsOpcode:
+        return test_support::Response::with(elements(request.be32(0)));
+      case kElementOpcode:
+        return element(request);
       default:
         return test_support::Response::failed(-1);
     }
@@ -83,9 +119,31 @@ class SwitchDouble {
         .text(556, name);
   }
 
-  static test_support::Bytes configuration(uint32_t number, const Vsan& vsan) {
+  test_support::Bytes elements(uint32_t vsan) const {
+    std::vector<test_support::Bytes> wwns;
+    for (const Element& element : elements_)
+      if (element.vsan == vsan) wwns.push_back(element.wwn);
+    test_support::Record list(4 + 12 * wwns.size());
+    list.be32(0, static_cast<uint32_t>(wwns.size()));
+    for (size_t i = 0; i < wwns.size(); ++i)
+      list.put(4 + 12 * i, wwns[i]).byte(4 + 12 * i + 10, 1);
+    return list;
+  }
+
+  test_support::Response element(const test_support::Request& request) const {
+    const uint32_t vsan = request.be32(4);
+    const test_support::Bytes wwn(request.body->begin() + 8, request.body->begin() + 16);
+    for (const Element& each : elements_)
+      if (each.vsan == vsan && each.wwn == wwn)
+        return test_support::Response::with(
+            test_support::Record(32).be32(0, vsan).put(4, wwn).be32(16, each.domain));
+    return test_support::Response::failed(kNoSuchElement);
+  }
+
+  test_support::Bytes configuration(uint32_t number, const Vsan& vsan) const {
     test_support::Record record(1152);
     record.be32(0, number).be32(4, 1);
+    record.byte(332, domain_).byte(333, type_).byte(337, priority_);
     if (vsan.alternate != nullptr) return record.put(340, test_support::hex(vsan.alternate));
     return record.byte(22, static_cast<uint8_t>(0x20 | number >> 8))
         .byte(23, static_cast<uint8_t>(number))
@@ -93,7 +151,19 @@ class SwitchDouble {
         .byte(334, 1);
   }
 
+  struct Element {
+    uint32_t vsan;
+    test_support::Bytes wwn;
+    uint8_t domain;
+  };
+
   std::map<uint32_t, Vsan> vsans_;
+  std::vector<Element> elements_;
+  std::vector<Change> changes_;
+  uint8_t domain_ = 33;
+  uint8_t type_ = 2;
+  uint8_t priority_ = 128;
+  int32_t change_status_ = 0;
   test_support::Responder responder_;
 };
 
