@@ -44,15 +44,24 @@ class NewValues {
   // `value` receives its text.
   bool text(const char* property, std::string& value) const;
 
+  // The properties that the client gave with a value.
+  std::vector<std::string> names() const;
+  // Whether an instance has the same value of a property. Numbers are compared whatever their
+  // types.
+  bool same_in(const CMPIInstance* other, const char* property) const;
+
  private:
   const CMPIInstance* instance_;
   const char** properties_;
 };
 
-// The arguments of a method call. Texts and numbers; others through `in` and `out` themselves.
+// The arguments of a method call. Those that are no text, number or truth value through `in` and
+// `out` themselves.
 struct Arguments {
   const CMPIArgs* in;
   CMPIArgs* out;
+  // Result: whether the client gave the argument; `value` receives its text.
+  bool text(const char* argument, std::string& value) const;
 };
 
 // One end of an association.
@@ -91,6 +100,8 @@ class Class {
   virtual bool can_create() const = 0;
   virtual bool can_modify() const = 0;
   virtual bool can_remove() const = 0;
+  // The properties that `modify` looks at, and a null pointer; null: it judges all of them itself.
+  virtual const char* const* changeable() const = 0;
   virtual bool has_method(const char* method) const = 0;
 
   virtual std::unique_ptr<Objects> list(int32_t q) const = 0;
@@ -144,6 +155,9 @@ class RecordClass final : public Class {
     Records (*related)(int32_t q, const char* role, const ObjectName& object) = nullptr;
     Record (*create)(int32_t q, const NewValues& values) = nullptr;
     void (*modify)(int32_t q, const Record&, const NewValues& values) = nullptr;
+    // With a list here (a null pointer at its end), a request that gives any other property another
+    // value than it has is refused before `modify` is called.
+    const char* const* changeable = nullptr;
     void (*remove)(int32_t q, const Record&) = nullptr;
     std::span<const Method> methods = {};
   };
@@ -155,6 +169,7 @@ class RecordClass final : public Class {
   bool can_create() const override { return description_.create != nullptr; }
   bool can_modify() const override { return description_.modify != nullptr; }
   bool can_remove() const override { return description_.remove != nullptr; }
+  const char* const* changeable() const override { return description_.changeable; }
   bool has_method(const char* method) const override { return find_method(method) != nullptr; }
 
   std::unique_ptr<Objects> list(int32_t q) const override { return objects(description_.list(q)); }

@@ -200,11 +200,30 @@ void Request::create(const CMPIInstance* new_instance) {
   done();
 }
 
+void Request::refuse_other_changes(const Class& cls, const Found& found,
+                                   const NewValues& values) const {
+  if (cls.changeable() == nullptr) return;
+  const std::vector<std::string> given = values.names();
+  std::vector<const char*> others;
+  for (const std::string& name : given)
+    if (!is_in(name.c_str(), cls.changeable())) others.push_back(name.c_str());
+  if (others.empty()) return;
+  others.push_back(nullptr);
+  const CMPIInstance* current = instance(cls, *found.objects, found.index, others.data());
+  others.pop_back();
+  // Clients send back what they have read, so the same value is no change.
+  for (const char* name : others)
+    if (!values.same_in(current, name))
+      throw Failure(CMPI_RC_ERR_INVALID_PARAMETER, "\"%s\" of a %s cannot be changed", name,
+                    cls.name());
+}
+
 void Request::modify(const CMPIInstance* new_values, const char** properties) {
   const Class& cls = own_class();
   if (!cls.can_modify()) not_supported(cls, "modified");
   const Found found = find(cls);
   const NewValues values(new_values, properties);
+  refuse_other_changes(cls, found, values);
   locked([&](int32_t q) { found.objects->modify(found.index, q, values); });
   done();
 }

@@ -62,6 +62,8 @@ class Request {
   const Class* class_named(const char* name) const;
   const Class& own_class() const;
   Found find(const Class& cls) const;
+  // Throws Failure when the values would change what cannot be changed.
+  void refuse_other_changes(const Class& cls, const Found& found, const NewValues& values) const;
   // visit(const Class&) for the path's class or those that derive from it.
   template <class Visit>
   void for_each_class(Visit visit) const;

@@ -25,24 +25,6 @@ void complete(int32_t q, VsanRecord& vsan) {
       dm_cim_get_dmEntry(q, vsan.entry.vsan_index, 1, &vsan.configuration) == 0;
 }
 
-const mts_dm_sw_conf_* configuration(const VsanRecord& vsan) {
-  return vsan.has_configuration ? &vsan.configuration : nullptr;
-}
-
-// One VSAN by its number. Result: false when the VSAN manager knows none.
-bool read_vsan(int32_t q, uint32_t number, VsanRecord& vsan) {
-  if (vsan_cim_check_vsan_index(number) != 0) return false;
-  vsan.entry = {};
-  vsan.entry.vsan_index = number;
-  const int32_t status = vsan_cim_get_vsanEntry(q, 1, &vsan.entry);
-  // The service's own refusals are positive; a negative status says that nobody answered.
-  if (status < 0)
-    throw Failure(CMPI_RC_ERR_FAILED, "the VSAN manager does not answer (status %d)", status);
-  if (status != 0) return false;
-  complete(q, vsan);
-  return true;
-}
-
 bool has_wwn(const VsanRecord& vsan, const char* wwn) {
   char text[kWwnDigits + 1] = {};
   return vsan_cim_get_vsan_admindomain_key(text, configuration(vsan)) == 0 &&
@@ -50,6 +32,23 @@ bool has_wwn(const VsanRecord& vsan, const char* wwn) {
 }
 
 }  // namespace
+
+bool read_vsan_entry(int32_t q, uint32_t number, vsanNewEntry_t& entry) {
+  if (vsan_cim_check_vsan_index(number) != 0) return false;
+  entry = {};
+  entry.vsan_index = number;
+  const int32_t status = vsan_cim_get_vsanEntry(q, 1, &entry);
+  // The service's own refusals are positive; a negative status says that nobody answered.
+  if (status < 0)
+    throw Failure(CMPI_RC_ERR_FAILED, "the VSAN manager does not answer (status %d)", status);
+  return status == 0;
+}
+
+bool read_vsan(int32_t q, uint32_t number, VsanRecord& vsan) {
+  if (!read_vsan_entry(q, number, vsan.entry)) return false;
+  complete(q, vsan);
+  return true;
+}
 
 std::vector<VsanRecord> all_vsans(int32_t q) {
   int32_t count = 0;
@@ -93,6 +92,17 @@ CMPIObjectPath* vsan_reference(const Target& target, const VsanRecord& vsan) {
 CMPIInstance* vsan_instance(const Target& target, const VsanRecord& vsan) {
   return vsan_build_instance(target.class_name, target.name_space, &vsan.entry, configuration(vsan),
                              target.properties, target.broker);
+}
+
+uint32_t request_vsan_state(int32_t q, const VsanRecord& vsan, const Arguments& arguments) {
+  constexpr uint32_t kCompleted = 0;
+  constexpr uint32_t kUnspecifiedError = 2;
+  constexpr uint32_t kInvalidParameter = 5;
+  std::string state;
+  if (!arguments.text("RequestedState", state) || (state != "2" && state != "3"))
+    return kInvalidParameter;
+  const int32_t status = vsan_cim_set_VsanEntry(q, vsan.entry.vsan_index, state == "2" ? 2 : 3);
+  return status == 0 ? kCompleted : kUnspecifiedError;
 }
 
 CMPIObjectPath* contained_domain_reference(const Target& target, const VsanRecord& vsan) {

@@ -16,6 +16,20 @@ struct VsanRecord {
   bool has_configuration;  // false: the domain manager gave none
 };
 
+// What the library's builders take; null without one.
+inline const mts_dm_sw_conf_* configuration(const VsanRecord& vsan) {
+  return vsan.has_configuration ? &vsan.configuration : nullptr;
+}
+
+inline bool is_up(const vsanNewEntry_t& entry) {
+  return entry.oper_state == 1;
+}
+
+// One VSAN by its number, without and with the domain manager's part. Result: false when the VSAN
+// manager knows none. Throws Failure when it does not answer.
+bool read_vsan_entry(int32_t q, uint32_t number, vsanNewEntry_t& entry);
+bool read_vsan(int32_t q, uint32_t number, VsanRecord& vsan);
+
 // The count, then one exchange with the VSAN manager and one with the domain manager per VSAN. When
 // the VSAN manager stops answering on the way, the VSANs read until then are the result: the
 // library does not tell the difference.
@@ -26,6 +40,11 @@ std::vector<VsanRecord> vsans_named(int32_t q, const ObjectName& name);
 
 CMPIObjectPath* vsan_reference(const Target& target, const VsanRecord& vsan);
 CMPIInstance* vsan_instance(const Target& target, const VsanRecord& vsan);
+
+// The method RequestStateChange: makes the VSAN active ("RequestedState" 2) or suspends it (3). It
+// is done when the method returns, so there is never a job. Result: 0; 2 when the VSAN manager
+// refuses or does not answer; 5 for another state or none.
+uint32_t request_vsan_state(int32_t q, const VsanRecord& vsan, const Arguments& arguments);
 
 // VEXOR_ContainedDomain.
 CMPIObjectPath* contained_domain_reference(const Target& target, const VsanRecord& vsan);

@@ -315,6 +315,19 @@ CMPIData get_property(const CMPIInstance* instance, const char* name, CMPIStatus
   return item(of(instance).properties, name, rc);
 }
 
+CMPIData get_property_at(const CMPIInstance* instance, CMPICount index, CMPIString** name,
+                         CMPIStatus* rc) {
+  const Pause pause;
+  Impl& broker = *of(instance).broker;
+  const Guard guard(broker.mutex);
+  return item(of(instance).properties, index, name, broker, rc);
+}
+
+CMPICount get_property_count(const CMPIInstance* instance, CMPIStatus* rc) {
+  put(rc, CMPI_RC_OK);
+  return static_cast<CMPICount>(of(instance).properties.size());
+}
+
 CMPIStatus set_property(const CMPIInstance* instance, const char* name, const CMPIValue* value,
                         CMPIType type) {
   const Pause pause;
@@ -518,6 +531,8 @@ void TestBroker::Impl::fill_tables() {
   path_table.getKeyAt = get_key_at;
   path_table.getKeyCount = get_key_count;
   instance_table.getProperty = get_property;
+  instance_table.getPropertyAt = get_property_at;
+  instance_table.getPropertyCount = get_property_count;
   instance_table.setProperty = set_property;
   instance_table.setPropertyFilter = set_property_filter;
   instance_table.getObjectPath = get_object_path;
