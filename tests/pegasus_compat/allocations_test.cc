@@ -16,18 +16,19 @@ long given = 0;
 
 }  // namespace
 
-// These take the place of the library's operators as well.
-void* operator new(std::size_t size) {
+// These take the place of the library's operators as well. Not inlined: g++ would take the pair for
+// a mismatched one.
+[[gnu::noinline]] void* operator new(std::size_t size) {
   ++taken;
   void* block = std::malloc(size == 0 ? 1 : size);
   if (block == nullptr) throw std::bad_alloc();
   return block;
 }
-void operator delete(void* block) noexcept {
+[[gnu::noinline]] void operator delete(void* block) noexcept {
   given += block != nullptr ? 1 : 0;
   std::free(block);
 }
-void operator delete(void* block, std::size_t) noexcept {
+[[gnu::noinline]] void operator delete(void* block, std::size_t) noexcept {
   operator delete(block);
 }
 
