@@ -475,7 +475,7 @@ std::vector<Instance> ObjectManager::associators(const ObjectPath& path,
         std::move(returned.instances.begin(), returned.instances.end(), std::back_inserter(all));
       });
   for (Instance& instance : all)
-    fill_in_namespace(complete.name_space, instance.path);
+    make_local(complete.name_space, instance.path);
   keep_only(properties, all);
   return all;
 }
@@ -497,7 +497,7 @@ std::vector<ObjectPath> ObjectManager::associator_names(const ObjectPath& path,
         std::move(returned.paths.begin(), returned.paths.end(), std::back_inserter(all));
       });
   for (ObjectPath& found : all)
-    fill_in_namespace(complete.name_space, found);
+    make_local(complete.name_space, found);
   return all;
 }
 
@@ -519,7 +519,7 @@ std::vector<Instance> ObjectManager::references(const ObjectPath& path,
     std::move(returned.instances.begin(), returned.instances.end(), std::back_inserter(all));
   });
   for (Instance& instance : all)
-    fill_in_namespace(complete.name_space, instance.path);
+    make_local(complete.name_space, instance.path);
   keep_only(properties, all);
   return all;
 }
@@ -540,7 +540,7 @@ std::vector<ObjectPath> ObjectManager::reference_names(const ObjectPath& path,
     std::move(returned.paths.begin(), returned.paths.end(), std::back_inserter(all));
   });
   for (ObjectPath& found : all)
-    fill_in_namespace(complete.name_space, found);
+    make_local(complete.name_space, found);
   return all;
 }
 

@@ -1,6 +1,7 @@
 #include "tools/command_line.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <map>
 #include <sstream>
 #include <string_view>
@@ -25,9 +26,23 @@ constexpr const char* kExamples =
     "  vexor-cim enumerate VEXOR_Vsan --format json    the same for a program\n"
     "  vexor-cim enumerate VEXOR_Vsan --names          the paths that `get` takes\n"
     "  vexor-cim get 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"'\n"
-    "  vexor-cim -v enumerate VEXOR_Vsan               with the traces of the library\n"
+    "  vexor-cim associators 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"'\n"
+    "  vexor-cim modify 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"' ElementName=backup\n"
+    "  vexor-cim -v enumerate VEXOR_Vsan               with the traces of the library\n";
+
+#if VEXOR_WITH_SIMULATOR
+constexpr const char* kSimulatorExamples =
+    "  vexor-cim fabric > lab.json                     the simulated fabric, to edit\n"
+    "  vexor-cim --fabric lab.json --state lab.state enumerate VEXOR_Vsan\n"
+    "  vexor-cim --generate vsans=20,seed=7 enumerate VEXOR_Vsan\n";
+#else
+constexpr const char* kSimulatorExamples = "";
+#endif
+
+constexpr const char* kStatus =
     "\n"
-    "Exit status: 0 success, 1 the operation failed, 2 the command line or an input is wrong.\n"
+    "Exit status: 0 success; 1 the operation failed or was refused, or the method returned\n"
+    "another number than 0; 2 the command line or an input is wrong.\n"
     "Environment: VEXOR_MOF and VEXOR_PROVIDERS stand for --mof and --providers.\n"
     "Every command has a help of its own: vexor-cim enumerate --help";
 
@@ -51,6 +66,73 @@ constexpr const char* kGetExamples =
     "  vexor-cim get 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"'\n"
     "  vexor-cim get 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"' --properties Status --format json";
 
+constexpr const char* kAssociatorsExamples =
+    "Examples:\n"
+    "  vexor-cim associators 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"'\n"
+    "  vexor-cim associators 'VEXOR_AdminDomain.Name=\"2001000DEC0A1B2D\"' --result-class "
+    "VEXOR_Vsan\n"
+    "  vexor-cim associators 'VEXOR_AdminDomain.Name=\"2001000DEC0A1B2D\"' \\\n"
+    "      --assoc-class VEXOR_ContainedDomain --role GroupComponent --format json";
+
+constexpr const char* kAssociatorNamesExamples =
+    "Examples:\n"
+    "  vexor-cim associator-names 'VEXOR_AdminDomain.Name=\"2001000DEC0A1B2D\"'\n"
+    "  vexor-cim associator-names 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"' --result-role "
+    "GroupComponent";
+
+constexpr const char* kReferencesExamples =
+    "Examples:\n"
+    "  vexor-cim references 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"'\n"
+    "  vexor-cim references 'VEXOR_AdminDomain.Name=\"2001000DEC0A1B2D\"' \\\n"
+    "      --result-class VEXOR_ContainedDomain --role GroupComponent";
+
+constexpr const char* kReferenceNamesExamples =
+    "Examples:\n"
+    "  vexor-cim reference-names 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"'";
+
+constexpr const char* kInvokeExamples =
+    "Prints what the method returned, then what it gave back, one a line:\n"
+    "  RequestStateChange returned 0\n"
+    "  Job = NULL\n"
+    "The exit status is 1 when it returned another number than 0.\n"
+    "A path without keys stands for the class itself, for a static method.\n"
+    "Values are as for modify; `vexor-cim class` shows the parameters of a method.\n"
+    "\n"
+    "Examples:\n"
+    "  vexor-cim invoke 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"' RequestStateChange "
+    "RequestedState=2\n"
+    "  vexor-cim invoke 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"' RequestStateChange \\\n"
+    "      RequestedState=3 TimeoutPeriod=00000000000030.000000:000";
+
+constexpr const char* kModifyExamples =
+    "Values have the types of the class: a text stands as it is, a number as 12 or 0x0C, a\n"
+    "boolean as true or false, a datetime in its 25 characters, a reference as an object path, an\n"
+    "array as {a,b}. Only the named properties are sent. The names and types of a class:\n"
+    "vexor-cim class VEXOR_Vsan\n"
+    "\n"
+    "Examples:\n"
+    "  vexor-cim modify 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"' ElementName=backup\n"
+    "  vexor-cim modify 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"' 'ElementName=night backup' \\\n"
+    "      LoadBalancingType=src-id/dst-id";
+
+constexpr const char* kCreateExamples =
+    "Prints the path of what was made. Values are as for modify.\n"
+    "\n"
+    "Example:\n"
+    "  vexor-cim create VEXOR_Vsan VsanId=30 ElementName=backup";
+
+#if VEXOR_WITH_SIMULATOR
+constexpr const char* kFabricExamples =
+    "Examples:\n"
+    "  vexor-cim fabric > lab.json                       the built-in fabric, to edit\n"
+    "  vexor-cim --generate switches=8,seed=7 fabric     eight made-up switches\n"
+    "  vexor-cim --state lab.state fabric                what changes have made of it";
+#endif
+
+constexpr const char* kDeleteExamples =
+    "Example:\n"
+    "  vexor-cim delete 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"'";
+
 void add_global_options(CLI::App& app, Options& options) {
   app.add_option("--namespace", options.name_space, "CIM namespace (root/cimv2)")
       ->type_name("NAME");
@@ -61,6 +143,20 @@ void add_global_options(CLI::App& app, Options& options) {
       ->type_name("PATH");
   app.add_option("--providers", options.providers, "provider library")->type_name("FILE");
 }
+
+#if VEXOR_WITH_SIMULATOR
+void add_platform_options(CLI::App& app, PlatformOptions& options) {
+  app.add_option("--fabric", options.fabric, "answer from the simulated fabric in a fabric file")
+      ->type_name("FILE");
+  app.add_option("--generate", options.generate,
+                 "answer from a made-up fabric: any of switches, ports, vsans, devices, seed,\n"
+                 "such as switches=8,ports=48,vsans=8,devices=200,seed=7")
+      ->type_name("NUMBERS");
+  app.add_option("--state", options.state,
+                 "go on from this file where it exists, and keep every change in it")
+      ->type_name("FILE");
+}
+#endif
 
 /// The names between the commas.
 std::vector<std::string> split(const std::string& list) {
@@ -73,12 +169,7 @@ std::vector<std::string> split(const std::string& list) {
   return names;
 }
 
-void add_output_options(CLI::App& command, Options& options) {
-  command
-      .add_option_function<std::string>(
-          "--properties", [&options](const std::string& list) { options.properties = split(list); },
-          "only these properties, in this order, separated by commas")
-      ->type_name("A,B");
+void add_format(CLI::App& command, Options& options, const char* choices) {
   static const std::map<std::string, Format> kFormats = {
       {"table", Format::table}, {"mof", Format::mof}, {"json", Format::json}};
   command
@@ -91,8 +182,159 @@ void add_output_options(CLI::App& command, Options& options) {
             }
             options.format = found->second;
           },
-          "table (the default), mof or json")
+          choices)
       ->type_name("FORMAT");
+}
+
+void add_output_options(CLI::App& command, Options& options) {
+  command
+      .add_option_function<std::string>(
+          "--properties", [&options](const std::string& list) { options.properties = split(list); },
+          "only these properties, in this order, separated by commas")
+      ->type_name("A,B");
+  add_format(command, options, "table (the default), mof or json");
+}
+
+void add_path(CLI::App& command, Options& options) {
+  command
+      .add_option("PATH", options.target,
+                  "its path, as enumerate --names prints it; the namespace and the key\n"
+                  "CreationClassName may be left out")
+      ->required()
+      ->type_name("");
+}
+
+void add_class(CLI::App& command, const char* name, Options& options) {
+  command.add_option(name, options.target, "name of a class")->required()->type_name("");
+}
+
+CLI::Option* add_values(CLI::App& command, Options& options, const char* description) {
+  return command.add_option("VALUES", options.values, description)->type_name("");
+}
+
+/// A command of the program, and what Options::command says when it was given.
+struct NamedCommand {
+  CLI::App* app;
+  Command command;
+};
+
+class Commands {
+ public:
+  explicit Commands(CLI::App& app) : app_(app) {}
+
+  CLI::App& add(Command command, const char* name, const char* description, const char* footer) {
+    CLI::App* const added = app_.add_subcommand(name, description);
+    added->footer(footer);
+    added->group("Commands");
+    all_.push_back({added, command});
+    return *added;
+  }
+
+  Command given() const {
+    const auto found = std::find_if(all_.begin(), all_.end(),
+                                    [](const NamedCommand& each) { return each.app->parsed(); });
+    return found->command;
+  }
+
+ private:
+  CLI::App& app_;
+  std::vector<NamedCommand> all_;
+};
+
+void add_class_commands(Commands& commands, Options& options) {
+  commands.add(Command::classes, "classes", "list the classes of the agent", "")
+      .add_flag("--all", options.all, "list the classes that they derive from, too");
+  add_class(commands.add(Command::show_class, "class",
+                         "print a class as MOF, with what it inherits", kClassExamples),
+            "NAME", options);
+}
+
+void add_reading_commands(Commands& commands, Options& options) {
+  CLI::App& enumerate = commands.add(Command::enumerate, "enumerate",
+                                     "print the instances of a class and of those derived from it",
+                                     kEnumerateExamples);
+  add_class(enumerate, "CLASS", options);
+  enumerate.add_flag("--names", options.names, "print the paths of the instances only");
+  add_output_options(enumerate, options);
+
+  CLI::App& get = commands.add(Command::get, "get", "print one instance", kGetExamples);
+  add_path(get, options);
+  add_output_options(get, options);
+}
+
+void add_filters(CLI::App& command, cim::host::AssociationFilter& filter, bool of_associators) {
+  if (of_associators) {
+    command.add_option("--assoc-class", filter.association_class, "only by associations of C")
+        ->type_name("C");
+  }
+  command
+      .add_option("--result-class", filter.result_class,
+                  of_associators ? "only instances of C" : "only associations of C")
+      ->type_name("C");
+  command
+      .add_option("--role", filter.role,
+                  "only where the instance is the value of the association's property R")
+      ->type_name("R");
+  if (of_associators) {
+    command
+        .add_option("--result-role", filter.result_role,
+                    "only what is the value of the association's property R")
+        ->type_name("R");
+  }
+}
+
+void add_association_commands(Commands& commands, Options& options) {
+  const auto add = [&](Command command, const char* name, const char* description,
+                       const char* footer, bool of_associators, bool names) {
+    CLI::App& added = commands.add(command, name, description, footer);
+    add_path(added, options);
+    add_filters(added, options.filter, of_associators);
+    if (names) {
+      add_format(added, options, "table (the default: one a line) or json");
+    } else {
+      add_output_options(added, options);
+    }
+  };
+  add(Command::associators, "associators", "print what is associated with an instance",
+      kAssociatorsExamples, true, false);
+  add(Command::associator_names, "associator-names", "print the paths of those",
+      kAssociatorNamesExamples, true, true);
+  add(Command::references, "references", "print the associations that lead to an instance",
+      kReferencesExamples, false, false);
+  add(Command::reference_names, "reference-names", "print the paths of those",
+      kReferenceNamesExamples, false, true);
+}
+
+void add_changing_commands(Commands& commands, Options& options) {
+  CLI::App& invoke =
+      commands.add(Command::invoke, "invoke", "call a method of an instance", kInvokeExamples);
+  add_path(invoke, options);
+  invoke.add_option("METHOD", options.method, "name of the method")->required()->type_name("");
+  add_values(invoke, options, "parameters, each NAME=VALUE");
+
+  CLI::App& modify =
+      commands.add(Command::modify, "modify", "change properties of an instance", kModifyExamples);
+  add_path(modify, options);
+  add_values(modify, options, "properties, each NAME=VALUE")->required();
+
+  CLI::App& create =
+      commands.add(Command::create, "create", "make an instance of a class", kCreateExamples);
+  add_class(create, "CLASS", options);
+  add_values(create, options, "properties, each NAME=VALUE")->required();
+
+  add_path(commands.add(Command::remove, "delete", "delete an instance", kDeleteExamples), options);
+}
+
+/// Why these options do not go together; empty: they do.
+std::string contradiction(const Options& options) {
+  if (options.platform.fabric && options.platform.generate)
+    return "--fabric and --generate both say what the fabric is";
+  const bool names = options.names || options.command == Command::associator_names ||
+                     options.command == Command::reference_names;
+  const std::string what = options.names ? "--names prints paths, which " : "paths ";
+  if (names && options.properties) return what + "--properties cannot choose from";
+  if (names && options.format == Format::mof) return what + "have no MOF form";
+  return {};
 }
 
 Parsed refused(std::string text) {
@@ -128,7 +370,7 @@ std::string one_line(std::string text) {
 Parsed parse_command_line(int argc, const char* const* argv) {
   Options options;
   CLI::App app(kDescription, "vexor-cim");
-  app.footer(kExamples);
+  app.footer(std::string(kExamples) + kSimulatorExamples + kStatus);
   app.require_subcommand(1);
   app.fallthrough();
   app.set_version_flag("--version", "vexor-cim " VEXOR_VERSION, "print the version");
@@ -137,32 +379,16 @@ Parsed parse_command_line(int argc, const char* const* argv) {
   app.get_formatter()->label("REQUIRED", "");
   add_global_options(app, options);
 
-  CLI::App* const classes = app.add_subcommand("classes", "list the classes of the agent");
-  classes->footer("");
-  classes->add_flag("--all", options.all, "list the classes that they derive from, too");
-
-  CLI::App* const show = app.add_subcommand("class", "print a class as MOF, with what it inherits");
-  show->footer(kClassExamples);
-  show->add_option("NAME", options.target, "name of a class")->required()->type_name("");
-
-  CLI::App* const enumerate = app.add_subcommand(
-      "enumerate", "print the instances of a class and of those derived from it");
-  enumerate->footer(kEnumerateExamples);
-  enumerate->add_option("CLASS", options.target, "name of a class")->required()->type_name("");
-  enumerate->add_flag("--names", options.names, "print the paths of the instances only");
-  add_output_options(*enumerate, options);
-
-  CLI::App* const get = app.add_subcommand("get", "print one instance");
-  get->footer(kGetExamples);
-  get->add_option("PATH", options.target,
-                  "its path, as enumerate --names prints it; the namespace and the key\n"
-                  "CreationClassName may be left out")
-      ->required()
-      ->type_name("");
-  add_output_options(*get, options);
-
-  for (CLI::App* command : {classes, show, enumerate, get})
-    command->group("Commands");
+  Commands commands(app);
+  add_class_commands(commands, options);
+  add_reading_commands(commands, options);
+  add_association_commands(commands, options);
+  add_changing_commands(commands, options);
+#if VEXOR_WITH_SIMULATOR
+  add_platform_options(app, options.platform);
+  commands.add(Command::fabric, "fabric", "print the simulated fabric as a fabric file",
+               kFabricExamples);
+#endif
 
   try {
     app.parse(argc, argv);
@@ -178,13 +404,8 @@ Parsed parse_command_line(int argc, const char* const* argv) {
     return refused(one_line(error.what()));
   }
 
-  if (show->parsed()) options.command = Command::show_class;
-  if (enumerate->parsed()) options.command = Command::enumerate;
-  if (get->parsed()) options.command = Command::get;
-  if (options.names && options.properties)
-    return refused("--names prints paths, which --properties cannot choose from");
-  if (options.names && options.format == Format::mof)
-    return refused("--names prints paths, which have no MOF form");
+  options.command = commands.given();
+  if (const std::string why = contradiction(options); !why.empty()) return refused(why);
   return {std::move(options), {}, kSuccess};
 }
 

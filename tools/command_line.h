@@ -6,10 +6,33 @@
 #include <string>
 #include <vector>
 
+#include "host/object_manager.h"
+
 namespace vexor::tools {
 
-enum class Command { classes, show_class, enumerate, get };
+enum class Command {
+  classes,
+  show_class,
+  enumerate,
+  get,
+  associators,
+  associator_names,
+  references,
+  reference_names,
+  invoke,
+  modify,
+  create,
+  remove,
+  fabric,
+};
 enum class Format { table, mof, json };
+
+/// Which simulated fabric answers.
+struct PlatformOptions {
+  std::optional<std::string> fabric;    ///< a fabric file
+  std::optional<std::string> generate;  ///< numbers of the generator
+  std::optional<std::string> state;     ///< a file that keeps changes
+};
 
 struct Options {
   Command command = Command::classes;
@@ -18,12 +41,16 @@ struct Options {
   bool verbose = false;
   std::string mof;        ///< file or folder; empty: look for it
   std::string providers;  ///< library; empty: look for it
+  PlatformOptions platform;
 
   std::string target;  ///< a class name, or the text of an object path
   bool all = false;
   bool names = false;
   std::optional<std::vector<std::string>> properties;
   Format format = Format::table;
+  cim::host::AssociationFilter filter;
+  std::string method;
+  std::vector<std::string> values;  ///< words NAME=VALUE
 };
 
 /// What to do: run with `options`, or, when they are missing, print `text` and end with

@@ -56,6 +56,11 @@ std::string cell(const Data* data) {
   return text;
 }
 
+/// A value in a line of its own: paths whole, so that they can be used.
+std::string value_text(const Data& data) {
+  return data.null ? "NULL" : on_one_line(cim::schema::to_text(cim::host::to_value(data)));
+}
+
 bool is_identifier(std::string_view name) {
   return name.ends_with("Id") || name.ends_with("ID");
 }
@@ -247,6 +252,13 @@ std::string instances_json(const std::vector<Instance>& instances, const Names& 
 
 std::string instance_json(const Instance& instance, const Names& wanted) {
   return dump(instance_object(instance, wanted));
+}
+
+std::string method_text(const std::string& method, const cim::host::MethodResult& result) {
+  std::string text = method + " returned " + value_text(result.value) + "\n";
+  for (const NamedData& value : result.out)
+    text += value.name + " = " + value_text(value.data) + "\n";
+  return text;
 }
 
 std::string paths_text(const std::vector<ObjectPath>& paths) {

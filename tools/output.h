@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "host/data.h"
+#include "host/object_manager.h"
 #include "schema/repository.h"
 
 namespace vexor::tools {
@@ -49,6 +50,9 @@ std::string instance_json(const cim::host::Instance& instance, const Names& want
 std::string paths_text(const std::vector<cim::host::ObjectPath>& paths);
 /// An array of path texts.
 std::string paths_json(const std::vector<cim::host::ObjectPath>& paths);
+
+/// What a method returned, then a line for each value that it gave back.
+std::string method_text(const std::string& method, const cim::host::MethodResult& result);
 
 }  // namespace vexor::tools
 

@@ -12,13 +12,11 @@
 #include "schema/repository.h"
 #include "tools/command_line.h"
 #include "tools/exit_status.h"
+#include "tools/input.h"
 #include "tools/locations.h"
 #include "tools/output.h"
+#include "tools/platform.h"
 #include "tools/streams.h"
-
-#if VEXOR_WITH_SIMULATOR
-#include "simulator/control/control.h"
-#endif
 
 namespace vexor::tools {
 namespace {
@@ -31,12 +29,6 @@ using cim::schema::Repository;
 
 constexpr const char* kProviderName = "VexorProvider";
 constexpr const char* kClassPrefix = "VEXOR_";
-
-/// Input that a person can mend: exit status 2.
-class BadInput : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
 
 std::string checked(const Location& location) {
   if (!location.error.empty()) throw BadInput(location.error);
@@ -52,22 +44,15 @@ void load_classes(Repository& repository, const Options& options) {
   throw BadInput(text);
 }
 
-/// The platform tells here that its own configuration is wrong, instead of in every answer.
-void check_platform() {
-#if VEXOR_WITH_SIMULATOR
-  const std::string problem = switch_sim::control::startup_problem();
-  if (!problem.empty()) throw BadInput(problem);
-#endif
-}
-
 cim::host::Settings settings_for(const Options& options) {
   cim::host::Settings settings;
   cim::host::ProviderRoute route;
   route.name = kProviderName;
   route.class_prefix = kClassPrefix;
   // Commands that only look at classes do without the library.
-  if (options.command == Command::enumerate || options.command == Command::get) {
+  if (options.command != Command::classes && options.command != Command::show_class) {
     route.library = checked(find_providers(options.providers));
+    // Told here once, instead of in every answer.
     check_platform();
   }
   settings.providers.push_back(std::move(route));
@@ -78,11 +63,10 @@ cim::host::Settings settings_for(const Options& options) {
   return settings;
 }
 
-/// \throws BadInput when neither the class nor one derived from it has a property of that name
-void check_properties(const Repository& repository, const Class& cls, const Names& wanted) {
+/// \throws BadInput, beginning with `whose`, when none of the classes has a property of that name
+void check_properties(const Repository& repository, const std::vector<const Class*>& classes,
+                      const std::string& whose, const Names& wanted) {
   if (!wanted) return;
-  std::vector<const Class*> classes = repository.subclasses(cls.name, true);
-  classes.insert(classes.begin(), &cls);
   for (const std::string& name : *wanted) {
     std::vector<std::string_view> known;
     bool found = false;
@@ -91,11 +75,15 @@ void check_properties(const Repository& repository, const Class& cls, const Name
       for (const cim::schema::Property* property : repository.properties(*candidate))
         known.push_back(property->name);
     }
-    if (found) continue;
-    const std::string_view nearest = cim::schema::nearest_name(name, known);
-    throw BadInput(cls.name + ": no property " + name +
-                   (nearest.empty() ? "" : " (did you mean " + std::string(nearest) + "?)"));
+    if (!found) throw BadInput(whose + " property " + name + did_you_mean(name, known));
   }
+}
+
+/// The same for a class and those derived from it.
+void check_properties(const Repository& repository, const Class& cls, const Names& wanted) {
+  std::vector<const Class*> classes = repository.subclasses(cls.name, true);
+  classes.insert(classes.begin(), &cls);
+  check_properties(repository, classes, cls.name + ": no", wanted);
 }
 
 std::string kind_of(const Class& cls) {
@@ -135,22 +123,10 @@ std::string enumerate(ObjectManager& manager, const Options& options) {
                          options.properties);
 }
 
-/// The path that a person typed, with what can only be one thing filled in.
+/// The path that a person typed. \throws CimError when there is no such class
 ObjectPath path_of(const ObjectManager& manager, const Options& options) {
-  cim::host::ParsedPath parsed = cim::host::parse_object_path(options.target);
-  if (!parsed) {
-    throw BadInput(options.target + ": column " + std::to_string(parsed.column) + ": " +
-                   parsed.error);
-  }
-  ObjectPath path = std::move(parsed.path);
-  if (path.name_space.empty()) path.name_space = options.name_space;
-  const Class& cls = manager.find_class(path.class_name);
-  for (const cim::schema::Property* key : manager.repository().keys(cls)) {
-    if (cim::schema::equal_names(key->name, "CreationClassName") &&
-        cim::host::find_named(path.keys, key->name) == nullptr) {
-      path.keys.push_back({key->name, cim::host::Data::string(cls.name)});
-    }
-  }
+  ObjectPath path = read_path(manager.repository(), options.target, options.name_space);
+  manager.find_class(path.class_name);
   return path;
 }
 
@@ -169,29 +145,200 @@ std::string get(ObjectManager& manager, const Options& options) {
   return instance_list(manager.repository(), instance, options.properties);
 }
 
-std::string run_command(ObjectManager& manager, const Options& options) {
+// --- Associations --------------------------------------------------------------------------------
+
+std::vector<const Class*> associations(const Repository& repository) {
+  std::vector<const Class*> found;
+  for (const Class* cls : repository.all())
+    if (cls->is_association) found.push_back(cls);
+  return found;
+}
+
+/// A filter that nothing can pass is a slip.
+void check_role(const Repository& repository, const char* option, const std::string& role) {
+  if (role.empty()) return;
+  std::vector<std::string_view> known;
+  for (const Class* cls : associations(repository)) {
+    for (const cim::schema::Property* property : repository.properties(*cls)) {
+      if (!property->is_reference()) continue;
+      if (cim::schema::equal_names(property->name, role)) return;
+      known.push_back(property->name);
+    }
+  }
+  throw BadInput(std::string(option) + ": no association has a reference " + role +
+                 did_you_mean(role, known));
+}
+
+void check_filter(const ObjectManager& manager, const cim::host::AssociationFilter& filter) {
+  for (const std::string& name : {filter.association_class, filter.result_class})
+    if (!name.empty()) manager.find_class(name);
+  check_role(manager.repository(), "--role", filter.role);
+  check_role(manager.repository(), "--result-role", filter.result_role);
+}
+
+std::string shown(const ObjectManager& manager, const Options& options,
+                  const std::vector<Instance>& instances, const std::string& when_empty) {
+  switch (options.format) {
+    case Format::mof:
+      return instances_mof(instances);
+    case Format::json:
+      return instances_json(instances, options.properties);
+    case Format::table:
+      break;
+  }
+  if (instances.empty()) return when_empty;
+  const Class& first = manager.find_class(instances.front().path.class_name);
+  return instance_tables(manager.repository(), first, options.name_space, instances,
+                         options.properties);
+}
+
+std::string associated(ObjectManager& manager, const Options& options) {
+  const Repository& repository = manager.repository();
+  const bool references = options.command == Command::references;
+  const ObjectPath path = path_of(manager, options);
+  check_filter(manager, options.filter);
+  if (!options.filter.result_class.empty()) {
+    check_properties(repository, manager.find_class(options.filter.result_class),
+                     options.properties);
+  } else if (references) {
+    check_properties(repository, associations(repository), "no association has a",
+                     options.properties);
+  } else {
+    const auto all = repository.all();
+    check_properties(repository, {all.begin(), all.end()}, "no class has a", options.properties);
+  }
+  const std::string name = cim::host::to_short_text(path);
+  if (references) {
+    return shown(manager, options, manager.references(path, options.filter, options.properties),
+                 "No association leads to " + name + "\n");
+  }
+  return shown(manager, options, manager.associators(path, options.filter, options.properties),
+               "Nothing is associated with " + name + "\n");
+}
+
+std::string associated_names(ObjectManager& manager, const Options& options) {
+  const ObjectPath path = path_of(manager, options);
+  check_filter(manager, options.filter);
+  const std::vector<ObjectPath> paths = options.command == Command::reference_names
+                                            ? manager.reference_names(path, options.filter)
+                                            : manager.associator_names(path, options.filter);
+  return options.format == Format::json ? paths_json(paths) : paths_text(paths);
+}
+
+// --- Changes -------------------------------------------------------------------------------------
+
+/// What a command printed, and its exit status.
+struct Outcome {
+  std::string text;
+  int status = kSuccess;
+};
+
+const cim::schema::Method& find_method(const Repository& repository, const Class& cls,
+                                       const std::string& name) {
+  if (const cim::schema::Method* method = repository.method(cls, name)) return *method;
+  std::vector<std::string_view> known;
+  for (const cim::schema::Method* method : repository.methods(cls))
+    known.push_back(method->name);
+  throw BadInput(cls.name + ": no method " + name + did_you_mean(name, known));
+}
+
+bool is_nonzero(const cim::host::Data& data) {
+  if (const auto* number = std::get_if<std::uint64_t>(&data.element)) return *number != 0;
+  if (const auto* number = std::get_if<std::int64_t>(&data.element)) return *number != 0;
+  return false;
+}
+
+Outcome invoke(ObjectManager& manager, const Options& options) {
+  const ObjectPath path = path_of(manager, options);
+  const Class& cls = manager.find_class(path.class_name);
+  const cim::schema::Method& method = find_method(manager.repository(), cls, options.method);
+  const ValueScope scope{manager.repository(), path.name_space};
+  const cim::host::MethodResult result =
+      manager.invoke_method(path, method.name, read_arguments(scope, cls, method, options.values));
+  return {method_text(method.name, result), is_nonzero(result.value) ? kFailed : kSuccess};
+}
+
+std::string modify(ObjectManager& manager, const Options& options) {
+  const ObjectPath path = path_of(manager, options);
+  const Class& cls = manager.find_class(path.class_name);
+  const ValueScope scope{manager.repository(), path.name_space};
+  const Instance changed{path, read_properties(scope, cls, options.values)};
+  std::vector<std::string> names;
+  for (const cim::host::NamedData& property : changed.properties) {
+    if (manager.repository().property(cls, property.name)->is_key())
+      throw BadInput(cls.name + "." + property.name + " is a key: it cannot change");
+    names.push_back(property.name);
+  }
+  manager.modify_instance(changed, names);
+  return "modified " + cim::host::to_short_text(path) + "\n";
+}
+
+std::string create(ObjectManager& manager, const Options& options) {
+  const Class& cls = manager.find_class(options.target);
+  const ValueScope scope{manager.repository(), options.name_space};
+  const Instance made{{{}, options.name_space, cls.name, {}},
+                      read_properties(scope, cls, options.values)};
+  return paths_text({manager.create_instance(made)});
+}
+
+std::string remove(ObjectManager& manager, const Options& options) {
+  const ObjectPath path = path_of(manager, options);
+  manager.delete_instance(path);
+  return "deleted " + cim::host::to_short_text(path) + "\n";
+}
+
+// --- Running -------------------------------------------------------------------------------------
+
+Outcome run_command(ObjectManager& manager, const Options& options) {
   switch (options.command) {
     case Command::classes:
       manager.check_name_space(options.name_space);
-      return list_classes(manager, options);
+      return {list_classes(manager, options)};
     case Command::show_class:
       manager.check_name_space(options.name_space);
-      return cim::schema::to_mof(manager.find_class(options.target), manager.repository(),
-                                 cim::schema::Form::complete);
+      return {cim::schema::to_mof(manager.find_class(options.target), manager.repository(),
+                                  cim::schema::Form::complete)};
     case Command::enumerate:
-      return enumerate(manager, options);
+      return {enumerate(manager, options)};
     case Command::get:
+      return {get(manager, options)};
+    case Command::associators:
+    case Command::references:
+      return {associated(manager, options)};
+    case Command::associator_names:
+    case Command::reference_names:
+      return {associated_names(manager, options)};
+    case Command::invoke:
+      return invoke(manager, options);
+    case Command::modify:
+      return {modify(manager, options)};
+    case Command::create:
+      return {create(manager, options)};
+    case Command::remove:
+      return {remove(manager, options)};
+    case Command::fabric:  // needs no classes: see outcome_of
       break;
   }
-  return get(manager, options);
+  return {};
+}
+
+Outcome outcome_of(const Options& options) {
+  prepare_platform(options.platform);
+  if (options.command == Command::fabric) {
+    check_platform();
+    return {platform_fabric()};
+  }
+  Repository repository;
+  load_classes(repository, options);
+  ObjectManager manager(repository, settings_for(options));
+  return run_command(manager, options);
 }
 
 int run(const Options& options, Streams& streams) {
   try {
-    Repository repository;
-    load_classes(repository, options);
-    ObjectManager manager(repository, settings_for(options));
-    streams.result(run_command(manager, options));
+    const Outcome outcome = outcome_of(options);
+    streams.result(outcome.text);
+    return outcome.status;
   } catch (const BadInput& error) {
     streams.error(error.what());
     return kBadInput;
@@ -199,7 +346,6 @@ int run(const Options& options, Streams& streams) {
     streams.error(error.what());
     return kFailed;
   }
-  return kSuccess;
 }
 
 /// Results that did not arrive are a failure, whatever the command said.
