@@ -109,16 +109,19 @@ TEST_F(LoadedProviders, EveryNameOfEveryClassCanBeGotUnderEveryBehavior) {
 TEST_F(LoadedProviders, AssociationsAreWalkedFromBothEnds) {
   ObjectManager manager(repository_, settings());
   const auto fabric = manager.enumerate_instance_names(kNamespace, "VEXOR_AdminDomain").at(0);
-  const auto vsans = manager.associator_names(fabric, {.association_class = "VEXOR_ContainedDomain",
-                                                       .result_class = "",
-                                                       .role = "",
-                                                       .result_role = ""});
+  const cim::host::AssociatorFilter containment = {.association_class = "VEXOR_ContainedDomain",
+                                                   .result_class = "",
+                                                   .role = "",
+                                                   .result_role = ""};
+  const auto vsans = manager.associator_names(fabric, containment);
   ASSERT_EQ(vsans.size(), 2u);
   EXPECT_EQ(text(vsans[0]), kVsans[0]);
-  const auto back = manager.associator_names(vsans[1]);
+  const auto back = manager.associator_names(vsans[1], containment);
   ASSERT_EQ(back.size(), 1u);
   EXPECT_EQ(text(back[0]), kFabric);
-  EXPECT_EQ(manager.references(vsans[1]).size(), 1u);
+  // Without a filter the three switches of the VSAN come too.
+  EXPECT_EQ(manager.associator_names(vsans[1]).size(), 4u);
+  EXPECT_EQ(manager.references(vsans[1]).size(), 4u);
 }
 
 TEST_F(LoadedProviders, WhatDoesNotExistIsNotFound) {
