@@ -109,10 +109,10 @@ TEST_F(LoadedProviders, EveryNameOfEveryClassCanBeGotUnderEveryBehavior) {
 TEST_F(LoadedProviders, AssociationsAreWalkedFromBothEnds) {
   ObjectManager manager(repository_, settings());
   const auto fabric = manager.enumerate_instance_names(kNamespace, "VEXOR_AdminDomain").at(0);
-  const cim::host::AssociatorFilter containment = {.association_class = "VEXOR_ContainedDomain",
-                                                   .result_class = "",
-                                                   .role = "",
-                                                   .result_role = ""};
+  const cim::host::AssociationFilter containment = {.association_class = "VEXOR_ContainedDomain",
+                                                    .result_class = "",
+                                                    .role = "",
+                                                    .result_role = ""};
   const auto vsans = manager.associator_names(fabric, containment);
   ASSERT_EQ(vsans.size(), 2u);
   EXPECT_EQ(text(vsans[0]), kVsans[0]);
