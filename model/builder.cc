@@ -2,7 +2,7 @@
 
 #include <cim_utils/session.h>
 
-#include <cstdio>
+#include <cstring>
 
 namespace cim_utils::model {
 
@@ -14,7 +14,7 @@ KeyNames::KeyNames(const Builder& builder, std::initializer_list<const char*> na
   if (!complete_) return;
   char** next = names_;
   for (const char* name : names)
-    std::snprintf(*next++, kLongestKeyName, "%s", name);
+    std::memcpy(*next++, name, strnlen(name, kLongestKeyName - 1));  // into zeroed texts
 }
 
 KeyNames::~KeyNames() {
