@@ -336,6 +336,8 @@ void add_changing_commands(Commands& commands, Options& options) {
 std::string contradiction(const Options& options) {
   if (options.platform.fabric && options.platform.generate)
     return "--fabric and --generate both say what the fabric is";
+  if (options.platform.state && options.platform.state->empty())
+    return "--state: the name of the file is missing";
   const bool names = options.names || options.command == Command::associator_names ||
                      options.command == Command::reference_names;
   const std::string what = options.names ? "--names prints paths, which " : "paths ";

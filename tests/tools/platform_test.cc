@@ -69,6 +69,11 @@ TEST_F(Platform, Files_that_cannot_be_used_are_refused) {
                {"--state", "/nonexistent/f", "fabric"});
 }
 
+TEST_F(Platform, A_state_file_needs_a_name) {
+  expect_error(2, "--state: the name of the file is missing; vexor-cim --help tells what there is",
+               {"--state", "", "fabric"});
+}
+
 TEST_F(Platform, Numbers_of_the_generator_must_be_known_and_in_range) {
   expect_error(2, "--generate: unknown key \"switchs\" (did you mean \"switches\"?)",
                {"--generate", "switchs=3", "fabric"});
