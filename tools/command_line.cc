@@ -27,7 +27,10 @@ constexpr const char* kExamples =
     "  vexor-cim enumerate VEXOR_Vsan --names          the paths that `get` takes\n"
     "  vexor-cim get 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"'\n"
     "  vexor-cim associators 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"'\n"
-    "  vexor-cim modify 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"' ElementName=backup\n"
+    "  vexor-cim modify 'VEXOR_FCSwitchSettings.InstanceID=\"2000000DEC0A1B2C\"' "
+    "PrincipalPriority=3\n"
+    "  vexor-cim invoke 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"' RequestStateChange "
+    "RequestedState=3\n"
     "  vexor-cim -v enumerate VEXOR_Vsan               with the traces of the library\n";
 
 #if VEXOR_WITH_SIMULATOR
@@ -91,9 +94,8 @@ constexpr const char* kReferenceNamesExamples =
     "  vexor-cim reference-names 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"'";
 
 constexpr const char* kInvokeExamples =
-    "Prints what the method returned, then what it gave back, one a line:\n"
-    "  RequestStateChange returned 0\n"
-    "  Job = NULL\n"
+    "Prints what the method returned, such as `RequestStateChange returned 0`, then what it gave\n"
+    "back, a line for each: NAME = VALUE.\n"
     "The exit status is 1 when it returned another number than 0.\n"
     "A path without keys stands for the class itself, for a static method.\n"
     "Values are as for modify; `vexor-cim class` shows the parameters of a method.\n"
@@ -108,15 +110,18 @@ constexpr const char* kModifyExamples =
     "Values have the types of the class: a text stands as it is, a number as 12 or 0x0C, a\n"
     "boolean as true or false, a datetime in its 25 characters, a reference as an object path, an\n"
     "array as {a,b}. Only the named properties are sent. The names and types of a class:\n"
-    "vexor-cim class VEXOR_Vsan\n"
+    "vexor-cim class VEXOR_FCSwitchSettings\n"
     "\n"
     "Examples:\n"
-    "  vexor-cim modify 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"' ElementName=backup\n"
-    "  vexor-cim modify 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"' 'ElementName=night backup' \\\n"
-    "      LoadBalancingType=src-id/dst-id";
+    "  vexor-cim modify 'VEXOR_FCSwitchSettings.InstanceID=\"2000000DEC0A1B2C\"' "
+    "PrincipalPriority=3\n"
+    "  vexor-cim --state lab.state modify 'VEXOR_FCSwitchSettings.InstanceID=\"2000000DEC0A1B2C\"' "
+    "\\\n"
+    "      PreferredDomainID=12 DomainIDLocked=true        kept for the next run";
 
 constexpr const char* kCreateExamples =
-    "Prints the path of what was made. Values are as for modify.\n"
+    "Prints the path of what was made. Values are as for modify. A provider that makes no\n"
+    "instances of the class refuses.\n"
     "\n"
     "Example:\n"
     "  vexor-cim create VEXOR_Vsan VsanId=30 ElementName=backup";
@@ -130,6 +135,8 @@ constexpr const char* kFabricExamples =
 #endif
 
 constexpr const char* kDeleteExamples =
+    "A provider that deletes no instances of the class refuses.\n"
+    "\n"
     "Example:\n"
     "  vexor-cim delete 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"'";
 
@@ -149,8 +156,8 @@ void add_platform_options(CLI::App& app, PlatformOptions& options) {
   app.add_option("--fabric", options.fabric, "answer from the simulated fabric in a fabric file")
       ->type_name("FILE");
   app.add_option("--generate", options.generate,
-                 "answer from a made-up fabric: any of switches, ports, vsans, devices, seed,\n"
-                 "such as switches=8,ports=48,vsans=8,devices=200,seed=7")
+                 "answer from a made-up fabric, such as\n"
+                 "switches=8,ports=48,vsans=8,devices=200,seed=7")
       ->type_name("NUMBERS");
   app.add_option("--state", options.state,
                  "go on from this file where it exists, and keep every change in it")
@@ -329,6 +336,8 @@ void add_changing_commands(Commands& commands, Options& options) {
 std::string contradiction(const Options& options) {
   if (options.platform.fabric && options.platform.generate)
     return "--fabric and --generate both say what the fabric is";
+  if (options.platform.state && options.platform.state->empty())
+    return "--state: the name of the file is missing";
   const bool names = options.names || options.command == Command::associator_names ||
                      options.command == Command::reference_names;
   const std::string what = options.names ? "--names prints paths, which " : "paths ";

@@ -176,6 +176,10 @@ TEST_F(Screens, Help_teaches_by_examples) {
   expect_screen("help.txt", {"--help"});
   expect_screen("help.txt", {"-h"});
   expect_screen("help_enumerate.txt", {"enumerate", "--help"});
+  expect_screen("help_associators.txt", {"associators", "--help"});
+  expect_screen("help_invoke.txt", {"invoke", "--help"});
+  expect_screen("help_modify.txt", {"modify", "--help"});
+  expect_screen("help_fabric.txt", {"fabric", "--help"});
 }
 
 TEST_F(Screens, Version_is_one_line) {
