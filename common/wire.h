@@ -41,7 +41,7 @@ inline void convert(void* record, std::span<const Span> spans) {
   auto* bytes = static_cast<std::byte*>(record);
   for (const Span& span : spans) {
     for (unsigned i = 0; i < span.count; ++i) {
-      std::byte* at = bytes + span.offset + i * span.width;
+      std::byte* at = bytes + span.offset + static_cast<size_t>(i) * span.width;
       if (span.width == sizeof(uint32_t)) {
         const uint32_t value = read32(at);
         std::memcpy(at, &value, sizeof value);

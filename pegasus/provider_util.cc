@@ -70,7 +70,9 @@ void copy_qualifiers(const CIMClass& from, CIMInstance& instance) {
 
 }  // namespace
 
-void ProviderUtil::addQualifiers(CIMInstance& instance, String nameSpace) {
+// By value as published.
+void ProviderUtil::addQualifiers(CIMInstance& instance,
+                                 String nameSpace) {  // NOLINT(performance-unnecessary-value-param)
   std::printf("ProviderUtil::addQualifiers() - Start\n");
   CIMClass definition;
   try {

@@ -28,7 +28,7 @@
 class CIM_UTILS_EXPORT ProviderUtil {
  public:
   ProviderUtil();
-  ~ProviderUtil();
+  ~ProviderUtil();  // NOLINT(performance-trivially-destructible): exported
 
   // The handle through which addQualifiers fetches class definitions. The hosting provider assigns
   // it before it builds instances.
