@@ -1,0 +1,71 @@
+// Reading whole tables over growing fabrics. The last lines give the growth: linear, or worse.
+#include <benchmark/benchmark.h>
+#include <cim_utils/collections.h>
+#include <cim_utils/domain_manager.h>
+#include <cim_utils/fabric_configuration.h>
+#include <cim_utils/session.h>
+#include <cim_utils/vsan.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include "simulator/control/control.h"
+
+namespace {
+
+// Traces are no part of what is measured; the report needs the real standard output.
+class TracesAside {
+ public:
+  TracesAside() : real_(stdout) { stdout = std::fopen("/dev/null", "w"); }
+  ~TracesAside() {
+    std::fclose(stdout);
+    stdout = real_;
+  }
+
+ private:
+  FILE* real_;
+};
+
+int32_t queue_on(const std::string& fabric, benchmark::State& state) {
+  if (const auto problem = switch_sim::control::install_generated(fabric))
+    state.SkipWithError(problem->c_str());
+  int32_t q = -1;
+  init_mts(&q);
+  return q;
+}
+
+void AllVsans(benchmark::State& state) {
+  const TracesAside aside;
+  const int32_t q = queue_on("switches=1,vsans=" + std::to_string(state.range(0)), state);
+  for (auto _ : state) {
+    int32_t count = 0;
+    vsanNewEntry_t* vsans = nullptr;
+    vsan_cim_get_all_vsanEntry(q, &count, &vsans);
+    if (count != state.range(0)) state.SkipWithError("not all VSANs were read");
+    for (int32_t i = 0; i < count; ++i) {
+      mts_dm_sw_conf_ conf{};
+      dm_cim_get_dmEntry(q, vsans[i].vsan_index, 1, &conf);
+      benchmark::DoNotOptimize(conf);
+    }
+    std::free(vsans);
+  }
+  state.SetComplexityN(state.range(0));
+}
+BENCHMARK(AllVsans)->RangeMultiplier(4)->Range(16, 4094)->Complexity();
+
+void AllPhysicalSwitches(benchmark::State& state) {
+  const TracesAside aside;
+  const int32_t q = queue_on("vsans=1,switches=" + std::to_string(state.range(0)), state);
+  for (auto _ : state) {
+    GSList* switches = nullptr;
+    fcs_cim_get_physical_switch_wwn_lists(q, &switches);
+    if (cim_g_slist_length(switches) != static_cast<guint>(state.range(0)))
+      state.SkipWithError("not all switches were read");
+    cim_g_slist_destroy(switches, nullptr);
+  }
+  state.SetComplexityN(state.range(0));
+}
+BENCHMARK(AllPhysicalSwitches)->RangeMultiplier(2)->Range(15, 239)->Complexity();
+
+}  // namespace
