@@ -11,7 +11,7 @@ int main(void) {
     return 1;
   }
   int32_t count = 0;
-  vsanNewEntry_t *vsans = NULL;
+  vsanNewEntry_t* vsans = NULL;
   if (vsan_cim_get_all_vsanEntry(q, &count, &vsans) != 0) {
     fprintf(stderr, "print_vsans: the VSAN manager does not answer\n");
     return 1;
