@@ -131,6 +131,9 @@ TEST(Imports, ThePlatformHas91Functions) {
 }
 
 TEST(Imports, AreThePlatformTheSystemAndTheNamedGlibFunctionsOnly) {
+#ifdef __SANITIZE_ADDRESS__
+  GTEST_SKIP() << "the sanitizers' runtime offers the C library's functions without their versions";
+#endif
   static const std::set<std::string> glib = {
       "g_hash_table_new",     "g_hash_table_insert", "g_hash_table_lookup", "g_hash_table_foreach",
       "g_hash_table_destroy", "g_str_hash",          "g_str_equal",         "g_slist_append",
