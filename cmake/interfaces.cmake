@@ -5,6 +5,11 @@ add_library(switch_platform_headers INTERFACE)
 target_include_directories(switch_platform_headers INTERFACE
   $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/interfaces/platform>)
 
+# The embedded object manager is always built with our own headers: it implements every table slot by
+# slot, and what it shares with a provider is the binary interface.
+add_library(own_cmpi_headers INTERFACE)
+target_include_directories(own_cmpi_headers INTERFACE ${PROJECT_SOURCE_DIR}/interfaces/cmpi)
+
 add_library(cmpi_headers INTERFACE)
 if(CMPI_INCLUDE_DIR)
   if(NOT EXISTS ${CMPI_INCLUDE_DIR}/cmpidt.h)

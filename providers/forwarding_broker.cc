@@ -118,7 +118,7 @@ bool convert(const CMPIValue& from, CMPIType type, CMPIType declared, CMPIValue&
   return true;
 }
 
-const CMPIBrokerEncFT ForwardingBroker::kEncapsulated = [] {
+CMPIBrokerEncFT ForwardingBroker::encapsulated_table = [] {
   CMPIBrokerEncFT table{};
   table.ftVersion = CMPICurrentVersion;
   table.newObjectPath = new_object_path;
@@ -127,11 +127,12 @@ const CMPIBrokerEncFT ForwardingBroker::kEncapsulated = [] {
   return table;
 }();
 
-const CMPIInstanceFT ForwardingBroker::kInstance = [] {
+CMPIInstanceFT ForwardingBroker::instance_table = [] {
   CMPIInstanceFT table{};
   table.ftVersion = CMPICurrentVersion;
   table.setProperty = set_property;
-  table.setPropertyFilter = set_property_filter;
+  // Headers differ in whether the instance is constant here.
+  table.setPropertyFilter = [](auto*, const char**, const char**) { return status_of(CMPI_RC_OK); };
   return table;
 }();
 
@@ -141,7 +142,7 @@ ForwardingBroker::ForwardingBroker(const CMPIBroker* real, const Shape& shape)
   broker_table_.brokerName = real->bft->brokerName;
   face_.hdl = this;
   face_.bft = &broker_table_;
-  face_.eft = &kEncapsulated;
+  face_.eft = &encapsulated_table;
 }
 
 const ForwardingBroker& ForwardingBroker::of(const CMPIBroker* face) {
@@ -176,7 +177,7 @@ CMPIInstance* ForwardingBroker::new_instance(const CMPIBroker* face, const CMPIO
   try {
     Instance& made = broker.instances_.emplace_front(Instance{{}, instance, &broker});
     made.face.hdl = &made;
-    made.face.ft = &kInstance;
+    made.face.ft = &instance_table;
     return &made.face;
   } catch (const std::bad_alloc&) {
     report(rc, CMPI_RC_ERR_FAILED);
@@ -217,8 +218,5 @@ CMPIStatus ForwardingBroker::set_property(const CMPIInstance* face, const char* 
 }
 
 // The list is the request's, which already acts: see new_instance and wanted.
-CMPIStatus ForwardingBroker::set_property_filter(const CMPIInstance*, const char**, const char**) {
-  return status_of(CMPI_RC_OK);
-}
 
 }  // namespace vexor::providers

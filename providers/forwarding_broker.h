@@ -50,8 +50,9 @@ class ForwardingBroker {
     const ForwardingBroker* broker;
   };
 
-  static const CMPIBrokerEncFT kEncapsulated;
-  static const CMPIInstanceFT kInstance;
+  // Not constant: some CMPI headers want them so. Nothing writes to them.
+  static CMPIBrokerEncFT encapsulated_table;
+  static CMPIInstanceFT instance_table;
 
   static const ForwardingBroker& of(const CMPIBroker* face);
   static const Instance& of(const CMPIInstance* face);
@@ -61,7 +62,6 @@ class ForwardingBroker {
   static CMPIInstance* new_instance(const CMPIBroker*, const CMPIObjectPath*, CMPIStatus* rc);
   static CMPIArray* new_array(const CMPIBroker*, CMPICount, CMPIType, CMPIStatus* rc);
   static CMPIStatus set_property(const CMPIInstance*, const char* name, const CMPIValue*, CMPIType);
-  static CMPIStatus set_property_filter(const CMPIInstance*, const char**, const char**);
 
   bool wanted(const char* property) const;
   CMPIType declared_type(const char* property, CMPIType as_set) const;

@@ -80,7 +80,10 @@ class ProviderObject {
     face_.hdl = this;
     face_.ft = table;
   }
-  static ProviderObject& of(Face* face) { return *static_cast<ProviderObject*>(face->hdl); }
+  static ProviderObject& of(Face* face) {
+    // Headers differ in whether the handle is constant.
+    return *static_cast<ProviderObject*>(const_cast<void*>(static_cast<const void*>(face->hdl)));
+  }
 
   Face face_;
   const CMPIBroker* broker_;
@@ -171,58 +174,53 @@ CMPIStatus invoke_method(CMPIMethodMI* mi, const CMPIContext*, const CMPIResult*
   });
 }
 
-const CMPIInstanceMIFT kInstanceTable = [] {
-  CMPIInstanceMIFT table{};
-  table.ftVersion = CMPICurrentVersion;
-  table.miVersion = CMPICurrentVersion;
-  table.miName = kName;
-  table.cleanup = Instances::cleanup;
-  table.enumerateInstanceNames = enumerate_names;
-  table.enumerateInstances = enumerate_instances;
-  table.getInstance = get_instance;
-  table.createInstance = create_instance;
-  table.modifyInstance = modify_instance;
-  table.deleteInstance = delete_instance;
-  table.execQuery = exec_query;
-  return table;
-}();
+// Not constant: some CMPI headers want them so. Nothing writes to them.
+CMPIInstanceMIFT instance_table = {
+    .ftVersion = CMPICurrentVersion,
+    .miVersion = CMPICurrentVersion,
+    .miName = kName,
+    .cleanup = Instances::cleanup,
+    .enumerateInstanceNames = enumerate_names,
+    .enumerateInstances = enumerate_instances,
+    .getInstance = get_instance,
+    .createInstance = create_instance,
+    .modifyInstance = modify_instance,
+    .deleteInstance = delete_instance,
+    .execQuery = exec_query,
+};
 
-const CMPIAssociationMIFT kAssociationTable = [] {
-  CMPIAssociationMIFT table{};
-  table.ftVersion = CMPICurrentVersion;
-  table.miVersion = CMPICurrentVersion;
-  table.miName = kName;
-  table.cleanup = Associations::cleanup;
-  table.associators = associators;
-  table.associatorNames = associator_names;
-  table.references = references;
-  table.referenceNames = reference_names;
-  return table;
-}();
+CMPIAssociationMIFT association_table = {
+    .ftVersion = CMPICurrentVersion,
+    .miVersion = CMPICurrentVersion,
+    .miName = kName,
+    .cleanup = Associations::cleanup,
+    .associators = associators,
+    .associatorNames = associator_names,
+    .references = references,
+    .referenceNames = reference_names,
+};
 
-const CMPIMethodMIFT kMethodTable = [] {
-  CMPIMethodMIFT table{};
-  table.ftVersion = CMPICurrentVersion;
-  table.miVersion = CMPICurrentVersion;
-  table.miName = kName;
-  table.cleanup = Methods::cleanup;
-  table.invokeMethod = invoke_method;
-  return table;
-}();
+CMPIMethodMIFT method_table = {
+    .ftVersion = CMPICurrentVersion,
+    .miVersion = CMPICurrentVersion,
+    .miName = kName,
+    .cleanup = Methods::cleanup,
+    .invokeMethod = invoke_method,
+};
 
 }  // namespace
 
 CMPIInstanceMI* make_instance_mi(const CMPIBroker* broker, CMPIStatus* rc, ClassTable classes) {
-  return Instances::make(broker, rc, classes, &kInstanceTable);
+  return Instances::make(broker, rc, classes, &instance_table);
 }
 
 CMPIAssociationMI* make_association_mi(const CMPIBroker* broker, CMPIStatus* rc,
                                        ClassTable classes) {
-  return Associations::make(broker, rc, classes, &kAssociationTable);
+  return Associations::make(broker, rc, classes, &association_table);
 }
 
 CMPIMethodMI* make_method_mi(const CMPIBroker* broker, CMPIStatus* rc, ClassTable classes) {
-  return Methods::make(broker, rc, classes, &kMethodTable);
+  return Methods::make(broker, rc, classes, &method_table);
 }
 
 }  // namespace vexor::providers
