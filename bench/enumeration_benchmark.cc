@@ -1,8 +1,6 @@
 // Reading whole tables over growing fabrics. The last lines give the growth: linear, or worse.
 #include <benchmark/benchmark.h>
-#include <cim_utils/collections.h>
 #include <cim_utils/domain_manager.h>
-#include <cim_utils/fabric_configuration.h>
 #include <cim_utils/session.h>
 #include <cim_utils/vsan.h>
 
@@ -53,19 +51,5 @@ void AllVsans(benchmark::State& state) {
   state.SetComplexityN(state.range(0));
 }
 BENCHMARK(AllVsans)->RangeMultiplier(4)->Range(16, 4094)->Complexity();
-
-void AllPhysicalSwitches(benchmark::State& state) {
-  const TracesAside aside;
-  const int32_t q = queue_on("vsans=1,switches=" + std::to_string(state.range(0)), state);
-  for (auto _ : state) {
-    GSList* switches = nullptr;
-    fcs_cim_get_physical_switch_wwn_lists(q, &switches);
-    if (cim_g_slist_length(switches) != static_cast<guint>(state.range(0)))
-      state.SkipWithError("not all switches were read");
-    cim_g_slist_destroy(switches, nullptr);
-  }
-  state.SetComplexityN(state.range(0));
-}
-BENCHMARK(AllPhysicalSwitches)->RangeMultiplier(2)->Range(15, 239)->Complexity();
 
 }  // namespace
