@@ -198,7 +198,7 @@ Face* make(Broker& broker, typename Traits<Face>::Content content) {
 CMPIStatus make_status(CMPIrc code, const std::string& text);
 
 /// Runs the body of a table function: *rc gets the outcome, and a failure yields `failed`. The two
-/// results never share a variable: g++ 12 lets a body that throws write into it.
+/// results never share a variable: a body that throws must not have written into `failed`.
 template <class Result, class Body>
 Result guarded(CMPIStatus* rc, const Result& failed, Body&& body) noexcept {
   CMPIStatus status{CMPI_RC_OK, nullptr};
