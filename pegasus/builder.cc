@@ -4,8 +4,6 @@
 #include <Pegasus/Common/System.h>
 #include <cim_utils/provider_util.h>
 
-#include <cassert>
-
 namespace cim_utils {
 
 using Pegasus::Array;
@@ -41,7 +39,7 @@ model::ObjectWriter* PegasusBuilder::open_instance(const char* cls, const char* 
 }
 
 model::Ref PegasusBuilder::close_path(model::ObjectWriter*) {
-  assert(closed_count_ < closed_.size());
+  if (closed_count_ == closed_.size()) return {};  // no class needs so many
   auto& path = closed_[closed_count_++];
   path.emplace(Pegasus::System::getHostName(), CIMNamespaceName(path_.ns), CIMName(path_.cls),
                path_.keys);

@@ -93,7 +93,11 @@ TEST(HostileMof, Every_beginning_of_a_text_is_read_without_a_crash) {
   ASSERT_GT(text.size(), 1000U);
   ReadOptions options;
   options.read_file = [](const std::string&, std::size_t) -> FileContent { return {"", {}}; };
-  const std::size_t classes = read_mof_text(text, "t.mof", options).classes.size();
+  std::size_t classes = 0;
+  for (std::size_t at = text.find("\nclass "); at != std::string::npos;
+       at = text.find("\nclass ", at + 1))
+    ++classes;
+  ASSERT_GT(classes, 2U);
   for (std::size_t length = 0; length < text.size(); ++length) {
     const Document document =
         read_mof_text(std::string_view(text).substr(0, length), "t.mof", options);
