@@ -2,7 +2,7 @@
 
 # Packages to build and run; packages that the checks need besides.
 build_packages="g++ cmake ninja-build pkg-config libglib2.0-dev libcli11-dev nlohmann-json3-dev"
-check_packages="libgtest-dev libbenchmark-dev clang-14 clang-format-14 clang-tidy-14 libclang-rt-14-dev git"
+check_packages="libgtest-dev libbenchmark-dev clang-14 clang-format-14 clang-tidy-14 libclang-rt-14-dev git ccache"
 
 say() { printf '%s\n' "==> $*"; }
 
