@@ -1,6 +1,7 @@
 // The sizes and offsets of the records that cross the message transport. A field that moves does
 // not compile.
 #include <switch_platform/records_domain_manager.h>
+#include <switch_platform/records_port_manager.h>
 #include <switch_platform/records_system.h>
 #include <switch_platform/records_vsan.h>
 #include <switch_platform/types.h>
@@ -49,6 +50,77 @@ static_assert(offsetof(mts_dm_sw_dom_list_info_, request_kind) == 4);
 static_assert(offsetof(mts_dm_sw_dom_list_info_, domain_id) == 5);
 static_assert(offsetof(mts_dm_sw_dom_list_info_, switch_wwn) == 6);
 static_assert(offsetof(mts_dm_sw_dom_list_info_, raw_14) == 14);
+
+static_assert(sizeof(pm_if_key_) == 8);
+static_assert(offsetof(pm_if_key_, first) == 0);
+static_assert(offsetof(pm_if_key_, last) == 4);
+
+static_assert(sizeof(pm_port_info_) == 204);
+static_assert(offsetof(pm_port_info_, if_index) == 0);
+static_assert(offsetof(pm_port_info_, status) == 4);
+static_assert(offsetof(pm_port_info_, name) == 8);
+static_assert(offsetof(pm_port_info_, admin_mode) == 89);
+static_assert(offsetof(pm_port_info_, admin_speed) == 94);
+static_assert(offsetof(pm_port_info_, admin_state) == 98);
+static_assert(offsetof(pm_port_info_, mtu) == 102);
+static_assert(offsetof(pm_port_info_, vsan) == 104);
+static_assert(offsetof(pm_port_info_, wwn) == 127);
+static_assert(offsetof(pm_port_info_, address) == 135);
+static_assert(offsetof(pm_port_info_, oper_mode) == 143);
+static_assert(offsetof(pm_port_info_, oper_speed) == 147);
+static_assert(offsetof(pm_port_info_, oper_state) == 151);
+static_assert(offsetof(pm_port_info_, phy_enable_state) == 154);
+static_assert(offsetof(pm_port_info_, fcot_present) == 201);
+
+static_assert(sizeof(fcIfAllCounters_t) == 600);
+static_assert(offsetof(fcIfAllCounters_t, if_index) == 0);
+static_assert(offsetof(fcIfAllCounters_t, class2_frames_received) == 8);
+static_assert(offsetof(fcIfAllCounters_t, class2_frames_transmitted) == 16);
+static_assert(offsetof(fcIfAllCounters_t, class2_bytes_received) == 24);
+static_assert(offsetof(fcIfAllCounters_t, class2_bytes_transmitted) == 32);
+static_assert(offsetof(fcIfAllCounters_t, class2_fabric_busy) == 48);
+static_assert(offsetof(fcIfAllCounters_t, class2_fabric_reject) == 56);
+static_assert(offsetof(fcIfAllCounters_t, class2_port_busy) == 64);
+static_assert(offsetof(fcIfAllCounters_t, class2_port_reject) == 72);
+static_assert(offsetof(fcIfAllCounters_t, class3_frames_received) == 80);
+static_assert(offsetof(fcIfAllCounters_t, class3_frames_transmitted) == 88);
+static_assert(offsetof(fcIfAllCounters_t, class3_bytes_received) == 96);
+static_assert(offsetof(fcIfAllCounters_t, class3_bytes_transmitted) == 104);
+static_assert(offsetof(fcIfAllCounters_t, class3_frames_discarded) == 112);
+static_assert(offsetof(fcIfAllCounters_t, link_failures) == 160);
+static_assert(offsetof(fcIfAllCounters_t, loss_of_sync) == 168);
+static_assert(offsetof(fcIfAllCounters_t, loss_of_signal) == 176);
+static_assert(offsetof(fcIfAllCounters_t, primitive_sequence_errors) == 184);
+static_assert(offsetof(fcIfAllCounters_t, invalid_transmission_words) == 192);
+static_assert(offsetof(fcIfAllCounters_t, crc_errors) == 200);
+static_assert(offsetof(fcIfAllCounters_t, delimiter_errors) == 208);
+static_assert(offsetof(fcIfAllCounters_t, address_errors) == 216);
+static_assert(offsetof(fcIfAllCounters_t, link_resets_received) == 224);
+static_assert(offsetof(fcIfAllCounters_t, link_resets_transmitted) == 232);
+static_assert(offsetof(fcIfAllCounters_t, frames_too_long) == 280);
+static_assert(offsetof(fcIfAllCounters_t, frames_too_short) == 288);
+static_assert(offsetof(fcIfAllCounters_t, nos_count) == 312);
+static_assert(offsetof(fcIfAllCounters_t, encoding_disparity_errors) == 352);
+static_assert(offsetof(fcIfAllCounters_t, dumped_frames) == 360);
+static_assert(offsetof(fcIfAllCounters_t, buffer_credit_not_received) == 376);
+static_assert(offsetof(fcIfAllCounters_t, buffer_credit_not_provided) == 384);
+static_assert(offsetof(fcIfAllCounters_t, error_frames) == 400);
+static_assert(offsetof(fcIfAllCounters_t, multicast_frames_received) == 408);
+static_assert(offsetof(fcIfAllCounters_t, multicast_frames_transmitted) == 424);
+static_assert(offsetof(fcIfAllCounters_t, lip_count) == 592);
+
+static_assert(sizeof(pm_port_channel_entry_) == 268);
+static_assert(offsetof(pm_port_channel_entry_, channel) == 0);
+static_assert(offsetof(pm_port_channel_entry_, if_index) == 4);
+static_assert(offsetof(pm_port_channel_entry_, attributes_8) == 8);
+static_assert(offsetof(pm_port_channel_entry_, attributes_24) == 24);
+static_assert(offsetof(pm_port_channel_entry_, members) == 104);
+static_assert(offsetof(pm_port_channel_entry_, member_list_length) == 168);
+static_assert(offsetof(pm_port_channel_entry_, attribute_172) == 172);
+static_assert(offsetof(pm_port_channel_entry_, attribute_176) == 176);
+static_assert(offsetof(pm_port_channel_entry_, attribute_184) == 184);
+static_assert(offsetof(pm_port_channel_entry_, if_index_188) == 188);
+static_assert(offsetof(pm_port_channel_entry_, attributes_256) == 256);
 
 static_assert(sizeof(system_information_) == 1032);
 static_assert(offsetof(system_information_, selector) == 0);

@@ -3,6 +3,7 @@
 #include <stddef.h>
 
 #include <switch_platform/records_domain_manager.h>
+#include <switch_platform/records_port_manager.h>
 #include <switch_platform/records_system.h>
 #include <switch_platform/records_vsan.h>
 #include <switch_platform/types.h>
@@ -58,6 +59,121 @@ static_assert(offsetof(struct mts_dm_sw_dom_list_info_, switch_wwn) == 6,
               "mts_dm_sw_dom_list_info_.switch_wwn");
 static_assert(offsetof(struct mts_dm_sw_dom_list_info_, raw_14) == 14,
               "mts_dm_sw_dom_list_info_.raw_14");
+
+static_assert(sizeof(struct pm_if_key_) == 8, "pm_if_key_");
+static_assert(offsetof(struct pm_if_key_, first) == 0, "pm_if_key_.first");
+static_assert(offsetof(struct pm_if_key_, last) == 4, "pm_if_key_.last");
+
+static_assert(sizeof(struct pm_port_info_) == 204, "pm_port_info_");
+static_assert(offsetof(struct pm_port_info_, if_index) == 0, "pm_port_info_.if_index");
+static_assert(offsetof(struct pm_port_info_, status) == 4, "pm_port_info_.status");
+static_assert(offsetof(struct pm_port_info_, name) == 8, "pm_port_info_.name");
+static_assert(offsetof(struct pm_port_info_, admin_mode) == 89, "pm_port_info_.admin_mode");
+static_assert(offsetof(struct pm_port_info_, admin_speed) == 94, "pm_port_info_.admin_speed");
+static_assert(offsetof(struct pm_port_info_, admin_state) == 98, "pm_port_info_.admin_state");
+static_assert(offsetof(struct pm_port_info_, mtu) == 102, "pm_port_info_.mtu");
+static_assert(offsetof(struct pm_port_info_, vsan) == 104, "pm_port_info_.vsan");
+static_assert(offsetof(struct pm_port_info_, wwn) == 127, "pm_port_info_.wwn");
+static_assert(offsetof(struct pm_port_info_, address) == 135, "pm_port_info_.address");
+static_assert(offsetof(struct pm_port_info_, oper_mode) == 143, "pm_port_info_.oper_mode");
+static_assert(offsetof(struct pm_port_info_, oper_speed) == 147, "pm_port_info_.oper_speed");
+static_assert(offsetof(struct pm_port_info_, oper_state) == 151, "pm_port_info_.oper_state");
+static_assert(offsetof(struct pm_port_info_, phy_enable_state) == 154,
+              "pm_port_info_.phy_enable_state");
+static_assert(offsetof(struct pm_port_info_, fcot_present) == 201, "pm_port_info_.fcot_present");
+
+static_assert(sizeof(struct fcIfAllCounters_t) == 600, "fcIfAllCounters_t");
+static_assert(offsetof(struct fcIfAllCounters_t, if_index) == 0, "fcIfAllCounters_t.if_index");
+static_assert(offsetof(struct fcIfAllCounters_t, class2_frames_received) == 8,
+              "fcIfAllCounters_t.class2_frames_received");
+static_assert(offsetof(struct fcIfAllCounters_t, class2_frames_transmitted) == 16,
+              "fcIfAllCounters_t.class2_frames_transmitted");
+static_assert(offsetof(struct fcIfAllCounters_t, class2_bytes_received) == 24,
+              "fcIfAllCounters_t.class2_bytes_received");
+static_assert(offsetof(struct fcIfAllCounters_t, class2_bytes_transmitted) == 32,
+              "fcIfAllCounters_t.class2_bytes_transmitted");
+static_assert(offsetof(struct fcIfAllCounters_t, class2_fabric_busy) == 48,
+              "fcIfAllCounters_t.class2_fabric_busy");
+static_assert(offsetof(struct fcIfAllCounters_t, class2_fabric_reject) == 56,
+              "fcIfAllCounters_t.class2_fabric_reject");
+static_assert(offsetof(struct fcIfAllCounters_t, class2_port_busy) == 64,
+              "fcIfAllCounters_t.class2_port_busy");
+static_assert(offsetof(struct fcIfAllCounters_t, class2_port_reject) == 72,
+              "fcIfAllCounters_t.class2_port_reject");
+static_assert(offsetof(struct fcIfAllCounters_t, class3_frames_received) == 80,
+              "fcIfAllCounters_t.class3_frames_received");
+static_assert(offsetof(struct fcIfAllCounters_t, class3_frames_transmitted) == 88,
+              "fcIfAllCounters_t.class3_frames_transmitted");
+static_assert(offsetof(struct fcIfAllCounters_t, class3_bytes_received) == 96,
+              "fcIfAllCounters_t.class3_bytes_received");
+static_assert(offsetof(struct fcIfAllCounters_t, class3_bytes_transmitted) == 104,
+              "fcIfAllCounters_t.class3_bytes_transmitted");
+static_assert(offsetof(struct fcIfAllCounters_t, class3_frames_discarded) == 112,
+              "fcIfAllCounters_t.class3_frames_discarded");
+static_assert(offsetof(struct fcIfAllCounters_t, link_failures) == 160,
+              "fcIfAllCounters_t.link_failures");
+static_assert(offsetof(struct fcIfAllCounters_t, loss_of_sync) == 168,
+              "fcIfAllCounters_t.loss_of_sync");
+static_assert(offsetof(struct fcIfAllCounters_t, loss_of_signal) == 176,
+              "fcIfAllCounters_t.loss_of_signal");
+static_assert(offsetof(struct fcIfAllCounters_t, primitive_sequence_errors) == 184,
+              "fcIfAllCounters_t.primitive_sequence_errors");
+static_assert(offsetof(struct fcIfAllCounters_t, invalid_transmission_words) == 192,
+              "fcIfAllCounters_t.invalid_transmission_words");
+static_assert(offsetof(struct fcIfAllCounters_t, crc_errors) == 200,
+              "fcIfAllCounters_t.crc_errors");
+static_assert(offsetof(struct fcIfAllCounters_t, delimiter_errors) == 208,
+              "fcIfAllCounters_t.delimiter_errors");
+static_assert(offsetof(struct fcIfAllCounters_t, address_errors) == 216,
+              "fcIfAllCounters_t.address_errors");
+static_assert(offsetof(struct fcIfAllCounters_t, link_resets_received) == 224,
+              "fcIfAllCounters_t.link_resets_received");
+static_assert(offsetof(struct fcIfAllCounters_t, link_resets_transmitted) == 232,
+              "fcIfAllCounters_t.link_resets_transmitted");
+static_assert(offsetof(struct fcIfAllCounters_t, frames_too_long) == 280,
+              "fcIfAllCounters_t.frames_too_long");
+static_assert(offsetof(struct fcIfAllCounters_t, frames_too_short) == 288,
+              "fcIfAllCounters_t.frames_too_short");
+static_assert(offsetof(struct fcIfAllCounters_t, nos_count) == 312, "fcIfAllCounters_t.nos_count");
+static_assert(offsetof(struct fcIfAllCounters_t, encoding_disparity_errors) == 352,
+              "fcIfAllCounters_t.encoding_disparity_errors");
+static_assert(offsetof(struct fcIfAllCounters_t, dumped_frames) == 360,
+              "fcIfAllCounters_t.dumped_frames");
+static_assert(offsetof(struct fcIfAllCounters_t, buffer_credit_not_received) == 376,
+              "fcIfAllCounters_t.buffer_credit_not_received");
+static_assert(offsetof(struct fcIfAllCounters_t, buffer_credit_not_provided) == 384,
+              "fcIfAllCounters_t.buffer_credit_not_provided");
+static_assert(offsetof(struct fcIfAllCounters_t, error_frames) == 400,
+              "fcIfAllCounters_t.error_frames");
+static_assert(offsetof(struct fcIfAllCounters_t, multicast_frames_received) == 408,
+              "fcIfAllCounters_t.multicast_frames_received");
+static_assert(offsetof(struct fcIfAllCounters_t, multicast_frames_transmitted) == 424,
+              "fcIfAllCounters_t.multicast_frames_transmitted");
+static_assert(offsetof(struct fcIfAllCounters_t, lip_count) == 592, "fcIfAllCounters_t.lip_count");
+
+static_assert(sizeof(struct pm_port_channel_entry_) == 268, "pm_port_channel_entry_");
+static_assert(offsetof(struct pm_port_channel_entry_, channel) == 0,
+              "pm_port_channel_entry_.channel");
+static_assert(offsetof(struct pm_port_channel_entry_, if_index) == 4,
+              "pm_port_channel_entry_.if_index");
+static_assert(offsetof(struct pm_port_channel_entry_, attributes_8) == 8,
+              "pm_port_channel_entry_.attributes_8");
+static_assert(offsetof(struct pm_port_channel_entry_, attributes_24) == 24,
+              "pm_port_channel_entry_.attributes_24");
+static_assert(offsetof(struct pm_port_channel_entry_, members) == 104,
+              "pm_port_channel_entry_.members");
+static_assert(offsetof(struct pm_port_channel_entry_, member_list_length) == 168,
+              "pm_port_channel_entry_.member_list_length");
+static_assert(offsetof(struct pm_port_channel_entry_, attribute_172) == 172,
+              "pm_port_channel_entry_.attribute_172");
+static_assert(offsetof(struct pm_port_channel_entry_, attribute_176) == 176,
+              "pm_port_channel_entry_.attribute_176");
+static_assert(offsetof(struct pm_port_channel_entry_, attribute_184) == 184,
+              "pm_port_channel_entry_.attribute_184");
+static_assert(offsetof(struct pm_port_channel_entry_, if_index_188) == 188,
+              "pm_port_channel_entry_.if_index_188");
+static_assert(offsetof(struct pm_port_channel_entry_, attributes_256) == 256,
+              "pm_port_channel_entry_.attributes_256");
 
 static_assert(sizeof(struct system_information_) == 1032, "system_information_");
 static_assert(offsetof(struct system_information_, selector) == 0, "system_information_.selector");
