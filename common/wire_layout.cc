@@ -1,6 +1,8 @@
 // The sizes and offsets of the records that cross the message transport. A field that moves does
 // not compile.
 #include <switch_platform/records_domain_manager.h>
+#include <switch_platform/records_fspf.h>
+#include <switch_platform/records_name_server.h>
 #include <switch_platform/records_port_manager.h>
 #include <switch_platform/records_system.h>
 #include <switch_platform/records_vsan.h>
@@ -130,6 +132,49 @@ static_assert(offsetof(system_information_, count) == 1028);
 static_assert(sizeof(system_name_request_) == 260);
 static_assert(offsetof(system_name_request_, name) == 0);
 static_assert(offsetof(system_name_request_, zero) == 256);
+
+static_assert(sizeof(fspfLinkEntry) == 36);
+static_assert(offsetof(fspfLinkEntry, word_0) == 0);
+static_assert(offsetof(fspfLinkEntry, domain) == 4);
+static_assert(offsetof(fspfLinkEntry, word_2) == 8);
+static_assert(offsetof(fspfLinkEntry, word_3) == 12);
+static_assert(offsetof(fspfLinkEntry, remote_domain) == 16);
+static_assert(offsetof(fspfLinkEntry, if_index) == 20);
+static_assert(offsetof(fspfLinkEntry, remote_if_index) == 24);
+static_assert(offsetof(fspfLinkEntry, word_7) == 28);
+static_assert(offsetof(fspfLinkEntry, word_8) == 32);
+
+static_assert(sizeof(fspf_lsr_) == 36);
+static_assert(offsetof(fspf_lsr_, words_0) == 0);
+static_assert(offsetof(fspf_lsr_, link_count) == 28);
+static_assert(offsetof(fspf_lsr_, word_8) == 32);
+
+static_assert(sizeof(fspf_lsr_request_) == 36);
+static_assert(offsetof(fspf_lsr_request_, vsan_index) == 0);
+static_assert(offsetof(fspf_lsr_request_, domain) == 4);
+static_assert(offsetof(fspf_lsr_request_, one) == 8);
+static_assert(offsetof(fspf_lsr_request_, zeros) == 12);
+
+static_assert(sizeof(ns_query_) == 16);
+static_assert(offsetof(ns_query_, vsan_index) == 0);
+static_assert(offsetof(ns_query_, attributes) == 4);
+static_assert(offsetof(ns_query_, zeros_6) == 6);
+static_assert(offsetof(ns_query_, zeros_8) == 8);
+
+static_assert(sizeof(ns_api_register_req_) == 768);
+static_assert(offsetof(ns_api_register_req_, vsan_index) == 4);
+static_assert(offsetof(ns_api_register_req_, fcid) == 8);
+static_assert(offsetof(ns_api_register_req_, port_wwn) == 12);
+static_assert(offsetof(ns_api_register_req_, fc4_types) == 36);
+static_assert(offsetof(ns_api_register_req_, port_type) == 196);
+static_assert(offsetof(ns_api_register_req_, node_wwn) == 200);
+static_assert(offsetof(ns_api_register_req_, node_ip_address) == 208);
+static_assert(offsetof(ns_api_register_req_, fabric_port_wwn) == 236);
+static_assert(offsetof(ns_api_register_req_, rest) == 244);
+
+static_assert(sizeof(ns_fc4_device_) == 24);
+static_assert(offsetof(ns_fc4_device_, fcid) == 0);
+static_assert(offsetof(ns_fc4_device_, rest) == 4);
 
 static_assert(sizeof(wwn_) == 8);
 static_assert(offsetof(wwn_, bytes) == 0);

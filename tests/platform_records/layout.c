@@ -3,6 +3,8 @@
 #include <stddef.h>
 
 #include <switch_platform/records_domain_manager.h>
+#include <switch_platform/records_fspf.h>
+#include <switch_platform/records_name_server.h>
 #include <switch_platform/records_port_manager.h>
 #include <switch_platform/records_system.h>
 #include <switch_platform/records_vsan.h>
@@ -183,6 +185,57 @@ static_assert(offsetof(struct system_information_, count) == 1028, "system_infor
 static_assert(sizeof(struct system_name_request_) == 260, "system_name_request_");
 static_assert(offsetof(struct system_name_request_, name) == 0, "system_name_request_.name");
 static_assert(offsetof(struct system_name_request_, zero) == 256, "system_name_request_.zero");
+
+static_assert(sizeof(struct fspfLinkEntry) == 36, "fspfLinkEntry");
+static_assert(offsetof(struct fspfLinkEntry, word_0) == 0, "fspfLinkEntry.word_0");
+static_assert(offsetof(struct fspfLinkEntry, domain) == 4, "fspfLinkEntry.domain");
+static_assert(offsetof(struct fspfLinkEntry, word_2) == 8, "fspfLinkEntry.word_2");
+static_assert(offsetof(struct fspfLinkEntry, word_3) == 12, "fspfLinkEntry.word_3");
+static_assert(offsetof(struct fspfLinkEntry, remote_domain) == 16, "fspfLinkEntry.remote_domain");
+static_assert(offsetof(struct fspfLinkEntry, if_index) == 20, "fspfLinkEntry.if_index");
+static_assert(offsetof(struct fspfLinkEntry, remote_if_index) == 24,
+              "fspfLinkEntry.remote_if_index");
+static_assert(offsetof(struct fspfLinkEntry, word_7) == 28, "fspfLinkEntry.word_7");
+static_assert(offsetof(struct fspfLinkEntry, word_8) == 32, "fspfLinkEntry.word_8");
+
+static_assert(sizeof(struct fspf_lsr_) == 36, "fspf_lsr_");
+static_assert(offsetof(struct fspf_lsr_, words_0) == 0, "fspf_lsr_.words_0");
+static_assert(offsetof(struct fspf_lsr_, link_count) == 28, "fspf_lsr_.link_count");
+static_assert(offsetof(struct fspf_lsr_, word_8) == 32, "fspf_lsr_.word_8");
+
+static_assert(sizeof(struct fspf_lsr_request_) == 36, "fspf_lsr_request_");
+static_assert(offsetof(struct fspf_lsr_request_, vsan_index) == 0, "fspf_lsr_request_.vsan_index");
+static_assert(offsetof(struct fspf_lsr_request_, domain) == 4, "fspf_lsr_request_.domain");
+static_assert(offsetof(struct fspf_lsr_request_, one) == 8, "fspf_lsr_request_.one");
+static_assert(offsetof(struct fspf_lsr_request_, zeros) == 12, "fspf_lsr_request_.zeros");
+
+static_assert(sizeof(struct ns_query_) == 16, "ns_query_");
+static_assert(offsetof(struct ns_query_, vsan_index) == 0, "ns_query_.vsan_index");
+static_assert(offsetof(struct ns_query_, attributes) == 4, "ns_query_.attributes");
+static_assert(offsetof(struct ns_query_, zeros_6) == 6, "ns_query_.zeros_6");
+static_assert(offsetof(struct ns_query_, zeros_8) == 8, "ns_query_.zeros_8");
+
+static_assert(sizeof(struct ns_api_register_req_) == 768, "ns_api_register_req_");
+static_assert(offsetof(struct ns_api_register_req_, vsan_index) == 4,
+              "ns_api_register_req_.vsan_index");
+static_assert(offsetof(struct ns_api_register_req_, fcid) == 8, "ns_api_register_req_.fcid");
+static_assert(offsetof(struct ns_api_register_req_, port_wwn) == 12,
+              "ns_api_register_req_.port_wwn");
+static_assert(offsetof(struct ns_api_register_req_, fc4_types) == 36,
+              "ns_api_register_req_.fc4_types");
+static_assert(offsetof(struct ns_api_register_req_, port_type) == 196,
+              "ns_api_register_req_.port_type");
+static_assert(offsetof(struct ns_api_register_req_, node_wwn) == 200,
+              "ns_api_register_req_.node_wwn");
+static_assert(offsetof(struct ns_api_register_req_, node_ip_address) == 208,
+              "ns_api_register_req_.node_ip_address");
+static_assert(offsetof(struct ns_api_register_req_, fabric_port_wwn) == 236,
+              "ns_api_register_req_.fabric_port_wwn");
+static_assert(offsetof(struct ns_api_register_req_, rest) == 244, "ns_api_register_req_.rest");
+
+static_assert(sizeof(struct ns_fc4_device_) == 24, "ns_fc4_device_");
+static_assert(offsetof(struct ns_fc4_device_, fcid) == 0, "ns_fc4_device_.fcid");
+static_assert(offsetof(struct ns_fc4_device_, rest) == 4, "ns_fc4_device_.rest");
 
 static_assert(sizeof(struct wwn_) == 8, "wwn_");
 static_assert(offsetof(struct wwn_, bytes) == 0, "wwn_.bytes");
