@@ -3,6 +3,7 @@
 #include <switch_platform/records_domain_manager.h>
 #include <switch_platform/records_fspf.h>
 #include <switch_platform/records_name_server.h>
+#include <switch_platform/records_platform_manager.h>
 #include <switch_platform/records_port_manager.h>
 #include <switch_platform/records_system.h>
 #include <switch_platform/records_vsan.h>
@@ -193,3 +194,32 @@ static_assert(offsetof(cim_mts_recv_opts, timeout_seconds) == 8);
 static_assert(offsetof(cim_mts_recv_opts, token) == 12);
 static_assert(offsetof(cim_mts_recv_opts, word_4) == 16);
 static_assert(offsetof(cim_mts_recv_opts, word_5) == 20);
+
+static_assert(sizeof(_vefcModuleEntry) == 316);
+static_assert(offsetof(_vefcModuleEntry, entity_index) == 0);
+static_assert(offsetof(_vefcModuleEntry, admin_status) == 4);
+static_assert(offsetof(_vefcModuleEntry, oper_status) == 8);
+static_assert(offsetof(_vefcModuleEntry, words_12) == 12);
+static_assert(offsetof(_vefcModuleEntry, raw_32) == 32);
+static_assert(offsetof(_vefcModuleEntry, num_ports) == 288);
+static_assert(offsetof(_vefcModuleEntry, word_292) == 292);
+static_assert(offsetof(_vefcModuleEntry, raw_296) == 296);
+static_assert(offsetof(_vefcModuleEntry, module_state) == 297);
+static_assert(offsetof(_vefcModuleEntry, module_type) == 298);
+static_assert(offsetof(_vefcModuleEntry, raw_299) == 299);
+static_assert(offsetof(_vefcModuleEntry, module_number) == 304);
+static_assert(offsetof(_vefcModuleEntry, word_308) == 308);
+static_assert(offsetof(_vefcModuleEntry, raw_312) == 312);
+
+static_assert(sizeof(_entPhysicalEntry) == 2780);
+static_assert(offsetof(_entPhysicalEntry, entity_index) == 0);
+static_assert(offsetof(_entPhysicalEntry, description) == 4);
+static_assert(offsetof(_entPhysicalEntry, vendor_type) == 260);
+static_assert(offsetof(_entPhysicalEntry, attributes) == 772);
+static_assert(offsetof(_entPhysicalEntry, name) == 788);
+static_assert(offsetof(_entPhysicalEntry, software_rev) == 1553);
+static_assert(offsetof(_entPhysicalEntry, serial_num) == 1808);
+static_assert(offsetof(_entPhysicalEntry, model_name) == 2096);
+static_assert(offsetof(_entPhysicalEntry, alias) == 2351);
+static_assert(offsetof(_entPhysicalEntry, word_2428) == 2428);
+static_assert(offsetof(_entPhysicalEntry, raw_2432) == 2432);

@@ -3,6 +3,7 @@
 #include <cim_utils/collections.h>
 #include <cim_utils/domain_manager.h>
 #include <cim_utils/fabric_configuration.h>
+#include <cim_utils/modules.h>
 #include <cim_utils/session.h>
 #include <cim_utils/system.h>
 #include <cim_utils/vsan.h>
@@ -102,6 +103,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   dm_cim_is_local_switch_wwn(kQueue, &wwn);
   dm_cim_is_local_port_wwn(kQueue, &wwn);
   dm_cim_set_DMEntry(kQueue, 1, 2, 3, 1, 2);
+
+  _vefcModuleEntry module{};
+  pfm_cim_get_vefcModuleTable(kQueue, 1, 0, &module);
+  print_module_info(&module);
+  _entPhysicalEntry entity{};
+  pfm_cim_get_entPhysicalTable(kQueue, 1, 0, &entity);
+  print_entity_info(&entity);
 
   system_information_ system_information{};
   system_information.selector = input.byte();

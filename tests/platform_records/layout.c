@@ -5,6 +5,7 @@
 #include <switch_platform/records_domain_manager.h>
 #include <switch_platform/records_fspf.h>
 #include <switch_platform/records_name_server.h>
+#include <switch_platform/records_platform_manager.h>
 #include <switch_platform/records_port_manager.h>
 #include <switch_platform/records_system.h>
 #include <switch_platform/records_vsan.h>
@@ -258,6 +259,46 @@ static_assert(offsetof(struct cim_mts_recv_opts, token) == 12, "cim_mts_recv_opt
 static_assert(offsetof(struct cim_mts_recv_opts, word_4) == 16, "cim_mts_recv_opts.word_4");
 static_assert(offsetof(struct cim_mts_recv_opts, word_5) == 20, "cim_mts_recv_opts.word_5");
 
+static_assert(sizeof(struct _vefcModuleEntry) == 316, "_vefcModuleEntry");
+static_assert(offsetof(struct _vefcModuleEntry, entity_index) == 0,
+              "_vefcModuleEntry.entity_index");
+static_assert(offsetof(struct _vefcModuleEntry, admin_status) == 4,
+              "_vefcModuleEntry.admin_status");
+static_assert(offsetof(struct _vefcModuleEntry, oper_status) == 8, "_vefcModuleEntry.oper_status");
+static_assert(offsetof(struct _vefcModuleEntry, words_12) == 12, "_vefcModuleEntry.words_12");
+static_assert(offsetof(struct _vefcModuleEntry, raw_32) == 32, "_vefcModuleEntry.raw_32");
+static_assert(offsetof(struct _vefcModuleEntry, num_ports) == 288, "_vefcModuleEntry.num_ports");
+static_assert(offsetof(struct _vefcModuleEntry, word_292) == 292, "_vefcModuleEntry.word_292");
+static_assert(offsetof(struct _vefcModuleEntry, raw_296) == 296, "_vefcModuleEntry.raw_296");
+static_assert(offsetof(struct _vefcModuleEntry, module_state) == 297,
+              "_vefcModuleEntry.module_state");
+static_assert(offsetof(struct _vefcModuleEntry, module_type) == 298,
+              "_vefcModuleEntry.module_type");
+static_assert(offsetof(struct _vefcModuleEntry, raw_299) == 299, "_vefcModuleEntry.raw_299");
+static_assert(offsetof(struct _vefcModuleEntry, module_number) == 304,
+              "_vefcModuleEntry.module_number");
+static_assert(offsetof(struct _vefcModuleEntry, word_308) == 308, "_vefcModuleEntry.word_308");
+static_assert(offsetof(struct _vefcModuleEntry, raw_312) == 312, "_vefcModuleEntry.raw_312");
+
+static_assert(sizeof(struct _entPhysicalEntry) == 2780, "_entPhysicalEntry");
+static_assert(offsetof(struct _entPhysicalEntry, entity_index) == 0,
+              "_entPhysicalEntry.entity_index");
+static_assert(offsetof(struct _entPhysicalEntry, description) == 4,
+              "_entPhysicalEntry.description");
+static_assert(offsetof(struct _entPhysicalEntry, vendor_type) == 260,
+              "_entPhysicalEntry.vendor_type");
+static_assert(offsetof(struct _entPhysicalEntry, attributes) == 772,
+              "_entPhysicalEntry.attributes");
+static_assert(offsetof(struct _entPhysicalEntry, name) == 788, "_entPhysicalEntry.name");
+static_assert(offsetof(struct _entPhysicalEntry, software_rev) == 1553,
+              "_entPhysicalEntry.software_rev");
+static_assert(offsetof(struct _entPhysicalEntry, serial_num) == 1808,
+              "_entPhysicalEntry.serial_num");
+static_assert(offsetof(struct _entPhysicalEntry, model_name) == 2096,
+              "_entPhysicalEntry.model_name");
+static_assert(offsetof(struct _entPhysicalEntry, alias) == 2351, "_entPhysicalEntry.alias");
+static_assert(offsetof(struct _entPhysicalEntry, word_2428) == 2428, "_entPhysicalEntry.word_2428");
+static_assert(offsetof(struct _entPhysicalEntry, raw_2432) == 2432, "_entPhysicalEntry.raw_2432");
 int platform_records_are_laid_out_in_c(void) {
   return 1;
 }
