@@ -7,6 +7,7 @@
 #include <switch_platform/records_port_manager.h>
 #include <switch_platform/records_system.h>
 #include <switch_platform/records_vsan.h>
+#include <switch_platform/records_zone_server.h>
 #include <switch_platform/types.h>
 
 #include <cstddef>
@@ -29,6 +30,43 @@ static_assert(offsetof(vsan_message_, header_word) == 0);
 static_assert(offsetof(vsan_message_, header_rest) == 4);
 static_assert(offsetof(vsan_message_, entry) == 520);
 static_assert(offsetof(vsan_message_, trailer) == 2628);
+
+static_assert(sizeof(zs_context_) == 132);
+
+static_assert(sizeof(zs_zone_set_entry_) == 1344);
+static_assert(offsetof(zs_zone_set_entry_, vsan_id) == 0);
+static_assert(offsetof(zs_zone_set_entry_, object_id) == 4);
+static_assert(offsetof(zs_zone_set_entry_, raw_8) == 8);
+static_assert(offsetof(zs_zone_set_entry_, name) == 16);
+static_assert(offsetof(zs_zone_set_entry_, zones) == 84);
+
+static_assert(sizeof(zs_zone_entry_) == 872);
+static_assert(offsetof(zs_zone_entry_, vsan_id) == 0);
+static_assert(offsetof(zs_zone_entry_, object_id) == 4);
+static_assert(offsetof(zs_zone_entry_, raw_8) == 8);
+static_assert(offsetof(zs_zone_entry_, name) == 16);
+static_assert(offsetof(zs_zone_entry_, members) == 84);
+static_assert(offsetof(zs_zone_entry_, aliases) == 344);
+static_assert(offsetof(zs_zone_entry_, attributes) == 604);
+static_assert(offsetof(zs_zone_entry_, rest) == 608);
+
+static_assert(sizeof(zs_alias_entry_) == 344);
+static_assert(offsetof(zs_alias_entry_, vsan_id) == 0);
+static_assert(offsetof(zs_alias_entry_, object_id) == 4);
+static_assert(offsetof(zs_alias_entry_, raw_8) == 8);
+static_assert(offsetof(zs_alias_entry_, name) == 16);
+static_assert(offsetof(zs_alias_entry_, members) == 84);
+
+static_assert(sizeof(zs_member_entry_) == 24);
+static_assert(offsetof(zs_member_entry_, raw_0) == 0);
+static_assert(offsetof(zs_member_entry_, type) == 20);
+static_assert(offsetof(zs_member_entry_, raw_21) == 21);
+
+static_assert(sizeof(zs_member_change_) == 4);
+static_assert(offsetof(zs_member_change_, type) == 0);
+static_assert(offsetof(zs_member_change_, zero_1) == 1);
+static_assert(offsetof(zs_member_change_, length_code) == 2);
+static_assert(offsetof(zs_member_change_, zero_3) == 3);
 
 static_assert(sizeof(mts_dm_sw_conf_) == 1152);
 static_assert(offsetof(mts_dm_sw_conf_, vsan_index) == 0);

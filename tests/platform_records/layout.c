@@ -9,6 +9,7 @@
 #include <switch_platform/records_port_manager.h>
 #include <switch_platform/records_system.h>
 #include <switch_platform/records_vsan.h>
+#include <switch_platform/records_zone_server.h>
 #include <switch_platform/types.h>
 
 static_assert(sizeof(struct vsanNewEntry_t) == 2108, "vsanNewEntry_t");
@@ -30,6 +31,44 @@ static_assert(offsetof(struct vsan_message_, header_word) == 0, "vsan_message_.h
 static_assert(offsetof(struct vsan_message_, header_rest) == 4, "vsan_message_.header_rest");
 static_assert(offsetof(struct vsan_message_, entry) == 520, "vsan_message_.entry");
 static_assert(offsetof(struct vsan_message_, trailer) == 2628, "vsan_message_.trailer");
+
+static_assert(sizeof(struct zs_context_) == 132, "zs_context_");
+
+static_assert(sizeof(struct zs_zone_set_entry_) == 1344, "zs_zone_set_entry_");
+static_assert(offsetof(struct zs_zone_set_entry_, vsan_id) == 0, "zs_zone_set_entry_.vsan_id");
+static_assert(offsetof(struct zs_zone_set_entry_, object_id) == 4, "zs_zone_set_entry_.object_id");
+static_assert(offsetof(struct zs_zone_set_entry_, raw_8) == 8, "zs_zone_set_entry_.raw_8");
+static_assert(offsetof(struct zs_zone_set_entry_, name) == 16, "zs_zone_set_entry_.name");
+static_assert(offsetof(struct zs_zone_set_entry_, zones) == 84, "zs_zone_set_entry_.zones");
+
+static_assert(sizeof(struct zs_zone_entry_) == 872, "zs_zone_entry_");
+static_assert(offsetof(struct zs_zone_entry_, vsan_id) == 0, "zs_zone_entry_.vsan_id");
+static_assert(offsetof(struct zs_zone_entry_, object_id) == 4, "zs_zone_entry_.object_id");
+static_assert(offsetof(struct zs_zone_entry_, raw_8) == 8, "zs_zone_entry_.raw_8");
+static_assert(offsetof(struct zs_zone_entry_, name) == 16, "zs_zone_entry_.name");
+static_assert(offsetof(struct zs_zone_entry_, members) == 84, "zs_zone_entry_.members");
+static_assert(offsetof(struct zs_zone_entry_, aliases) == 344, "zs_zone_entry_.aliases");
+static_assert(offsetof(struct zs_zone_entry_, attributes) == 604, "zs_zone_entry_.attributes");
+static_assert(offsetof(struct zs_zone_entry_, rest) == 608, "zs_zone_entry_.rest");
+
+static_assert(sizeof(struct zs_alias_entry_) == 344, "zs_alias_entry_");
+static_assert(offsetof(struct zs_alias_entry_, vsan_id) == 0, "zs_alias_entry_.vsan_id");
+static_assert(offsetof(struct zs_alias_entry_, object_id) == 4, "zs_alias_entry_.object_id");
+static_assert(offsetof(struct zs_alias_entry_, raw_8) == 8, "zs_alias_entry_.raw_8");
+static_assert(offsetof(struct zs_alias_entry_, name) == 16, "zs_alias_entry_.name");
+static_assert(offsetof(struct zs_alias_entry_, members) == 84, "zs_alias_entry_.members");
+
+static_assert(sizeof(struct zs_member_entry_) == 24, "zs_member_entry_");
+static_assert(offsetof(struct zs_member_entry_, raw_0) == 0, "zs_member_entry_.raw_0");
+static_assert(offsetof(struct zs_member_entry_, type) == 20, "zs_member_entry_.type");
+static_assert(offsetof(struct zs_member_entry_, raw_21) == 21, "zs_member_entry_.raw_21");
+
+static_assert(sizeof(struct zs_member_change_) == 4, "zs_member_change_");
+static_assert(offsetof(struct zs_member_change_, type) == 0, "zs_member_change_.type");
+static_assert(offsetof(struct zs_member_change_, zero_1) == 1, "zs_member_change_.zero_1");
+static_assert(offsetof(struct zs_member_change_, length_code) == 2,
+              "zs_member_change_.length_code");
+static_assert(offsetof(struct zs_member_change_, zero_3) == 3, "zs_member_change_.zero_3");
 
 static_assert(sizeof(struct mts_dm_sw_conf_) == 1152, "mts_dm_sw_conf_");
 static_assert(offsetof(struct mts_dm_sw_conf_, vsan_index) == 0, "mts_dm_sw_conf_.vsan_index");
