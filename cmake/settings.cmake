@@ -32,7 +32,9 @@ set(CMAKE_C_FLAGS_RELEASE "-O2 -DNDEBUG")
 add_compile_options($<$<COMPILE_LANG_AND_ID:CXX,GNU>:-fno-gnu-unique>)
 
 if(CIM_UTILS_SANITIZE)
-  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -O1)
+  # Not optimised: most of the time of a check is spent compiling, not running.
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
+    -fno-omit-frame-pointer -O0 -g1)
   add_link_options(-fsanitize=address,undefined)
 endif()
 if(CIM_UTILS_FUZZ)
