@@ -72,14 +72,11 @@ void add_ip_address(int32_t session, pm_port_info_* info) {
     std::memcpy(info->address, address.get(), sizeof info->address);
 }
 
-// The number of an FC or Ethernet port that `get` tells.
-int32_t number_of_port(uint32_t if_index, int32_t (*get)(uint32_t, uint8_t*), int32_t* kind_out) {
+// The kind of an interface that has a slot and a port number: 1 FC, 2 Ethernet; else nothing.
+std::optional<int32_t> kind_of_port(uint32_t if_index) {
   const auto type = type_of(if_index);
-  if (type != PM_IF_FC && type != PM_IF_ETHERNET) return -1;
-  uint8_t number = 0;
-  if (get(if_index, &number) != 0) return -1;
-  if (kind_out != nullptr) *kind_out = *type;
-  return number;
+  if (type != PM_IF_FC && type != PM_IF_ETHERNET) return std::nullopt;
+  return *type;
 }
 
 }  // namespace
@@ -115,11 +112,19 @@ int32_t pm_cim_if_index_get_next_type(uint32_t* if_index_out, uint8_t* if_type) 
 }
 
 int32_t pm_cim_get_slot_number_from_ifIndex(uint32_t if_index, int32_t* kind_out) {
-  return number_of_port(if_index, if_index_get_slot, kind_out);
+  const auto kind = kind_of_port(if_index);
+  uint8_t slot = 0;
+  if (!kind || if_index_get_slot(if_index, &slot) != 0) return -1;
+  if (kind_out != nullptr) *kind_out = *kind;
+  return slot;
 }
 
 int32_t pm_cim_get_port_number_from_ifIndex(uint32_t if_index, int32_t* kind_out) {
-  return number_of_port(if_index, if_index_get_port, kind_out);
+  const auto kind = kind_of_port(if_index);
+  uint8_t port = 0;
+  if (!kind || if_index_get_port(if_index, &port) != 0) return -1;
+  if (kind_out != nullptr) *kind_out = *kind;
+  return port;
 }
 
 int32_t pm_cim_get_port_info(pm_port_info_** out, int32_t exact, uint32_t if_index,
