@@ -1,6 +1,7 @@
 // Changes of an interface's configuration.
 #include <cim_utils/port_manager.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 
@@ -44,8 +45,9 @@ int32_t change_number(int32_t session, uint32_t if_index, Attribute attribute, u
 
 bool has_speed_and_mode(uint32_t if_index) {
   const auto type = type_of(if_index);
-  if (type == PM_IF_ISCSI) std::printf("ISCSI Interface not supported \n");
-  return type && type != PM_IF_ISCSI;
+  if (!type) return false;
+  if (*type == PM_IF_ISCSI) std::printf("ISCSI Interface not supported \n");
+  return *type != PM_IF_ISCSI;
 }
 
 }  // namespace
@@ -57,7 +59,7 @@ int32_t pm_cim_set_port_alias(const char* alias, uint32_t if_index, int32_t sess
   if (alias == nullptr) return -1;
   const auto type = type_of(if_index);
   if (!type || !can_be_asked_about(*type)) return -1;
-  if (type == PM_IF_FCIP || type == PM_IF_ISCSI) {
+  if (*type == PM_IF_FCIP || *type == PM_IF_ISCSI) {
     std::printf("pm_cim_set_port_alias NOT supported for FCIP and ISCSI\n");
     return -1;
   }
@@ -68,7 +70,7 @@ int32_t pm_cim_set_port_alias(const char* alias, uint32_t if_index, int32_t sess
     return -1;
   }
   char field[PM_MAX_ALIAS_LENGTH] = {};  // without a terminator when the alias fills it
-  std::memcpy(field, alias, length);
+  std::copy_n(alias, length, field);
   const ChangeResult result = change(session, if_index, Attribute::alias, field, sizeof field);
   return result.transport == 0 ? result.status.value_or(0) : result.transport;
 }
@@ -93,7 +95,7 @@ int32_t pm_cim_set_port_admin_status(uint32_t cim_state, uint32_t if_index, int3
     std::printf("pm_cim_set_port_admin_status(): index type not found\n");
     return -1;
   }
-  if (type == PM_IF_IN_BAND) {
+  if (*type == PM_IF_IN_BAND) {
     std::printf("pm_cim_set_port_admin_status(): index type INBAND PORT not supported\n");
     return -1;
   }
@@ -101,7 +103,7 @@ int32_t pm_cim_set_port_admin_status(uint32_t cim_state, uint32_t if_index, int3
     std::printf("pm_cim_set_port_admin_status(): IF table dest info failed\n");
     return -1;
   }
-  if (type == PM_IF_PORT_CHANNEL) {
+  if (*type == PM_IF_PORT_CHANNEL) {
     std::printf("pm_cim_set_port_admin_status(): index type is a physical FC port channel\n");
     return -1;
   }

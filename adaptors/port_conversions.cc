@@ -50,7 +50,8 @@ uint64_t ethernet_speed(const pm_port_info_& info) {
   if (info.oper_state != kUp) return 0;
   if (info.oper_speed == 0) return 100000000;
   // In 32 bits: faster than 4,294 Mb/s wraps, deliberately.
-  return info.oper_speed * uint32_t{1000000};
+  const uint32_t speed = info.oper_speed * uint32_t{1000000};
+  return speed;
 }
 
 }  // namespace

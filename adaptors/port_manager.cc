@@ -74,9 +74,9 @@ void add_ip_address(int32_t session, pm_port_info_* info) {
 
 // The kind of an interface that has a slot and a port number: 1 FC, 2 Ethernet; else nothing.
 std::optional<int32_t> kind_of_port(uint32_t if_index) {
-  const auto type = type_of(if_index);
+  const uint8_t type = type_of(if_index).value_or(0);
   if (type != PM_IF_FC && type != PM_IF_ETHERNET) return std::nullopt;
-  return *type;
+  return type;
 }
 
 }  // namespace
@@ -168,7 +168,7 @@ int32_t pm_cim_get_fc_port_counters(int32_t session, uint32_t if_index,
                                     fcIfAllCounters_t** counters_out) {
   if (counters_out == nullptr) return -1;
   *counters_out = nullptr;
-  const auto type = type_of(if_index);
+  const uint8_t type = type_of(if_index).value_or(0);
   if (type != PM_IF_FC && type != PM_IF_PORT_CHANNEL) return -1;
   char name[64] = {};
   sprintf_if_index(name, if_index);
