@@ -108,34 +108,43 @@ void print_entry(const ns_api_register_req_& entry) {
   std::printf("\n%s\n", node);
 }
 
+// What a WWN that is looked up is the name of.
+enum class Named { port, node, fabric_port };
+
 // What the lookups by a WWN differ in.
 struct LookUp {
-  int32_t (*send)(int32_t, uint32_t, uint32_t, const ns_query_*, mts_msg_t**);
+  Named named;
   const char* send_failure;
   const char* receive_failure;
 };
-constexpr LookUp kByPort = {ns_send_get_entry_given_portname, "get_entry_given_port_name failed!",
-                            "MTS recv failed!"};
-constexpr LookUp kByNode = {ns_send_get_entries_given_nodename, "get_entry_given_node_name failed!",
-                            "MTS recv failed!"};
-constexpr LookUp kByFabricPort = {ns_send_get_entries_given_fab_port_name,
-                                  "get_entry_given_fab_port_name failed!",
+constexpr LookUp kByPort = {Named::port, "get_entry_given_port_name failed!", "MTS recv failed!"};
+constexpr LookUp kByNode = {Named::node, "get_entry_given_node_name failed!", "MTS recv failed!"};
+constexpr LookUp kByFabricPort = {Named::fabric_port, "get_entry_given_fab_port_name failed!",
                                   "get fwwn entry MTS recv failed!"};
 
-// The client takes a WWN as the two words that it is in memory.
-int32_t send_by_wwn(const LookUp& by, int32_t session, uint32_t vsan, const uint8_t* wwn,
+// The client takes a WWN as the two words that it is in memory. Its functions are called, not
+// pointed to: a process may load the library before it has them.
+int32_t send_by_wwn(Named named, int32_t session, uint32_t vsan, const uint8_t* wwn,
                     mts_msg_t** request) {
   uint32_t words[2];
   std::memcpy(words, wwn, sizeof words);
   const ns_query_ query = query_of(vsan, NS_ATTRIBUTES_ALL);
-  return by.send(session, words[0], words[1], &query, request);
+  switch (named) {
+    case Named::port:
+      return ns_send_get_entry_given_portname(session, words[0], words[1], &query, request);
+    case Named::node:
+      return ns_send_get_entries_given_nodename(session, words[0], words[1], &query, request);
+    case Named::fabric_port:
+      return ns_send_get_entries_given_fab_port_name(session, words[0], words[1], &query, request);
+  }
+  return -1;
 }
 
 int32_t look_up(const LookUp& by, int32_t session, uint32_t vsan, const uint8_t* wwn,
                 int32_t* count_out, ns_api_register_req_** entries_out) {
   if (!no_entries(count_out, entries_out) || wwn == nullptr) return -1;
   Query query(session);
-  if (send_by_wwn(by, session, vsan, wwn, query.request_out()) != 0) {
+  if (send_by_wwn(by.named, session, vsan, wwn, query.request_out()) != 0) {
     std::fputs(by.send_failure, stdout);
     return -1;
   }
