@@ -98,12 +98,12 @@ CHeap<fspf_lsr_> read_lsr(int32_t session, uint32_t vsan, uint32_t domain) {
 // The records of a VSAN's switches.
 class LsrTable {
  public:
-  explicit LsrTable(size_t room) : lsrs_(allocate<fspf_lsr_*>(std::max<size_t>(room, 1))) {}
+  explicit LsrTable(size_t room) : lsrs_(allocate<Kept>(std::max<size_t>(room, 1))) {}
   LsrTable(const LsrTable&) = delete;
   LsrTable& operator=(const LsrTable&) = delete;
   ~LsrTable() {
     for (size_t i = 0; i < count_; ++i)
-      std::free(lsrs_[i]);
+      std::free(lsrs_[i].lsr);
   }
 
   bool has_memory() const { return lsrs_ != nullptr; }
@@ -111,7 +111,7 @@ class LsrTable {
 
   void add(CHeap<fspf_lsr_> lsr) {
     link_count_ += lsr[0].link_count;
-    lsrs_[count_++] = lsr.release();
+    lsrs_[count_++].lsr = lsr.release();
   }
 
   // The links of all records one after another; null when memory runs out.
@@ -120,12 +120,15 @@ class LsrTable {
     if (all == nullptr) return all;
     fspfLinkEntry* end = all.get();
     for (size_t i = 0; i < count_; ++i)
-      end = std::copy_n(links_of(lsrs_[i]), lsrs_[i]->link_count, end);
+      end = std::copy_n(links_of(lsrs_[i].lsr), lsrs_[i].lsr->link_count, end);
     return all;
   }
 
  private:
-  CHeap<fspf_lsr_*> lsrs_;
+  struct Kept {
+    fspf_lsr_* lsr;
+  };
+  CHeap<Kept> lsrs_;
   size_t count_ = 0;
   size_t link_count_ = 0;
 };
@@ -142,34 +145,23 @@ int32_t local_domain(int32_t session, uint32_t vsan) {
   return kNoDomain;
 }
 
-// A list of interconnect elements, from its last to its first.
-class Elements {
- public:
-  Elements() = default;
-  Elements(const Elements&) = delete;
-  Elements& operator=(const Elements&) = delete;
-  ~Elements() { cim_g_slist_destroy(list_, nullptr); }
-
-  GSList** out() { return &list_; }
-
-  // False when memory runs out, or `visit` does.
-  template <typename Visit>
-  bool for_each_from_last(Visit visit) const {
-    const size_t count = cim_g_slist_length(list_);
-    auto elements = allocate<const fcs_cim_ie_*>(std::max<size_t>(count, 1));
-    if (elements == nullptr) return false;
-    size_t filled = 0;
-    for (const GSList* node = list_; node != nullptr; node = node->next)
-      elements[filled++] = static_cast<const fcs_cim_ie_*>(node->data);
-    while (filled > 0) {
-      if (!visit(*elements[--filled])) return false;
-    }
-    return true;
-  }
-
- private:
-  GSList* list_ = nullptr;
+// The interconnect elements of a switch.
+struct Elements {
+  CHeap<fcs_cim_ie_> records;  // null when memory ran out
+  size_t count;
 };
+
+// In the order of their list.
+Elements read_elements(int32_t session, const uint8_t* switch_wwn) {
+  GSList* list = nullptr;
+  fcs_cim_get_ie_list_with_wwn_hex(session, switch_wwn, &list);
+  const size_t count = cim_g_slist_length(list);
+  Elements elements = {allocate<fcs_cim_ie_>(std::max<size_t>(count, 1)), 0};
+  for (const GSList* node = list; node != nullptr && elements.records != nullptr; node = node->next)
+    elements.records[elements.count++] = *static_cast<const fcs_cim_ie_*>(node->data);
+  cim_g_slist_destroy(list, nullptr);
+  return elements;
+}
 
 constexpr uint8_t kPhysicalFc = 1;
 constexpr uint8_t kPortChannel = 4;
@@ -281,16 +273,17 @@ int32_t fspf_cim_get_all_fspfLinks_for_swwwn_and_if_index(int32_t session,
                                                           const uint8_t* switch_wwn,
                                                           uint32_t if_index, GSList** list) {
   if (switch_wwn == nullptr || list == nullptr) return -1;
-  Elements elements;
-  fcs_cim_get_ie_list_with_wwn_hex(session, switch_wwn, elements.out());
+  const Elements elements = read_elements(session, switch_wwn);
+  if (elements.records == nullptr) return -1;
   ListBuilder links(list);
-  const bool complete = elements.for_each_from_last([&](const fcs_cim_ie_& element) {
+  for (size_t i = elements.count; i > 0; --i) {
+    const fcs_cim_ie_& element = elements.records[i - 1];
     fspfLinkEntry link;
     if (fspf_cim_get_fspfLink(session, element.vsan, element.domain, if_index, &link) != 0)
-      return true;
-    return links.append_copy(&link, sizeof link);
-  });
-  return complete && *list != nullptr ? 0 : -1;
+      continue;
+    if (!links.append_copy(&link, sizeof link)) return -1;
+  }
+  return *list != nullptr ? 0 : -1;
 }
 
 int32_t fspf_cim_get_all_fspfLinks_for_pwwn(int32_t session, const wwn_* port_wwn, GSList** list) {
