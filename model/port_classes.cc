@@ -34,9 +34,6 @@ constexpr uint8_t kManagement = 5;
 constexpr uint8_t kFcip = 10;
 constexpr uint8_t kIscsi = 11;
 
-// Up to here interfaces of links are numbers of other makers' switches.
-constexpr uint32_t kLastForeignPort = 256;
-
 // What a port is known by.
 struct PortKeys {
   const char* cls;
@@ -283,13 +280,19 @@ PortKeys keys_of(const char* cls, const LinkPort& port) {
   return keys;
 }
 
-// The interface's own name where it is one of this platform, else its number.
+// Whether a link's interface is one of this platform, not a port number of another maker's switch.
+// Compared as a signed number, as link names do.
+bool is_platform_interface(uint32_t number) {
+  return static_cast<int32_t>(number) > 256;
+}
+
+// The interface's own name, or its number.
 struct LinkInterfaceName {
   explicit LinkInterfaceName(uint32_t number) {
-    if (number > kLastForeignPort) {
+    if (is_platform_interface(number)) {
       sprintf_if_index(text, number);
     } else {
-      std::snprintf(text, sizeof text, "%u", number);
+      std::snprintf(text, sizeof text, "%d", static_cast<int>(number));
     }
   }
   char text[64] = {};
@@ -308,7 +311,7 @@ void write_link_port(ObjectWriter& out, const char* cls, const LinkPort& port) {
   if (!port.physical) out.uint16("VsanId", static_cast<uint16_t>(port.link->word_0));
   write_identity(out, "Interface", name.text);
   write_port_number(out, number);
-  const uint8_t type = number > kLastForeignPort ? type_of(number) : kFcPort;
+  const uint8_t type = is_platform_interface(number) ? type_of(number) : kFcPort;
   out.uint16("PortType", pm_cim_convert_isl_port_type(type));
   out.uint16("LinkTechnology", kFibreChannel);
 }
