@@ -8,78 +8,18 @@
 #include <cim_utils/system.h>
 #include <cim_utils/vsan.h>
 
-#include <algorithm>
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
-#include <cstring>
 
 #include <switch_platform/fabric_configuration.h>
 #include <switch_platform/fabric_distribution.h>
-#include <switch_platform/mts.h>
 
-namespace {
-
-// The rest of the input, consumed from its front. Behind its end everything is zero.
-class Input {
- public:
-  void start(const uint8_t* data, size_t size) {
-    data_ = data;
-    size_ = size;
-  }
-  uint8_t byte() {
-    if (size_ == 0) return 0;
-    --size_;
-    return *data_++;
-  }
-  uint16_t word() { return static_cast<uint16_t>(byte() << 8 | byte()); }
-  void fill(void* to, size_t size) {
-    const size_t there = std::min(size, size_);
-    if (there > 0) std::memcpy(to, data_, there);
-    std::memset(static_cast<uint8_t*>(to) + there, 0, size - there);
-    data_ += there;
-    size_ -= there;
-  }
-  bool empty() const { return size_ == 0; }
-
- private:
-  const uint8_t* data_ = nullptr;
-  size_t size_ = 0;
-};
-
-Input input;
-// Exchanges left for this run: services do not answer for ever.
-int exchanges_left;
-
-}  // namespace
-
-int32_t cmi_req_resp(uint32_t, uint32_t, const void*, void** reply, int32_t* length, int32_t,
-                     int32_t, uint32_t, int32_t, int32_t) {
-  if (input.empty() || --exchanges_left < 0) return -1;
-  const uint8_t what = input.byte();
-  const size_t size = input.word() % 3000;
-  if (reply != nullptr && (what & 1) != 0 && size > 0) {
-    *reply = std::malloc(size);
-    input.fill(*reply, size);
-    if ((what & 2) == 0) *length = static_cast<int32_t>(size);
-    if ((what & 4) != 0) *length = static_cast<int32_t>(input.word()) - 0x8000;
-  }
-  if ((what & 0x18) == 0x18) return static_cast<int8_t>(input.byte());
-  return 0;
-}
-
-void perror(const char*) {}
+#include "fuzz/fuzzed_services.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  static const bool quiet = [] {
-    // Traces are of no interest here; what the sanitizers say is.
-    return std::freopen("/dev/null", "w", stdout) != nullptr;
-  }();
-  (void)quiet;
   constexpr int32_t kQueue = 7;
   mts_q = kQueue;
-  input.start(data, size);
-  exchanges_left = 2000;
+  start_run(data, size);
 
   vsanNewEntry_t vsan{};
   vsan_cim_get_vsanEntry(kQueue, input.byte(), &vsan);

@@ -6,8 +6,7 @@
  *   failed function leaves its out-parameters null or unchanged. A null argument that a function
  *   cannot do without is a failure.
  * - Interface indexes are the platform's 32-bit identifiers. if_type is what the platform gives for
- *   one: 1 FC port, 2 Ethernet port, 4 port channel (FC or Ethernet), 5 management port, 6 in-band
- *   port, 10 FCIP interface, 11 iSCSI interface, 14 VSAN interface.
+ *   one, see pm_interface_type; other types are accepted and unsupported.
  * - Records and counters handed out come from the C heap and are the caller's, who frees them with
  *   free(). Lists own their elements and are released with cim_g_slist_destroy; *list is the head,
  *   in and out. The records have fields that are not aligned: take values, never addresses.
@@ -27,6 +26,17 @@
 #ifdef __cplusplus
 extern "C" {
 #endif
+
+enum pm_interface_type {
+  PM_IF_FC = 1,
+  PM_IF_ETHERNET = 2,
+  PM_IF_PORT_CHANNEL = 4, /* of FC ports, or of Ethernet ports where pm_is_ether_channel says so */
+  PM_IF_MANAGEMENT = 5,
+  PM_IF_IN_BAND = 6,
+  PM_IF_FCIP = 10,
+  PM_IF_ISCSI = 11,
+  PM_IF_VSAN = 14
+};
 
 enum pm_text_room {
   PM_MANAGEMENT_MAC_TEXT_ROOM = 13,
