@@ -38,7 +38,7 @@ constexpr uint8_t kIscsi = 11;
 struct PortKeys {
   const char* cls;
   const char* system_class;
-  char device_id[CIM_NS_LINK_NAME_ROOM] = {};
+  char device_id[std::max<size_t>(CIM_FSPF_LINK_NAME_ROOM, CIM_NS_LINK_NAME_ROOM)] = {};
   char system_name[64] = {};
 };
 
@@ -260,16 +260,16 @@ bool write_link_name(char* name, const LinkPort& port, const wwn_& switch_wwn) {
 
 void write_link_device_id(PortKeys& keys, const LinkPort& port, const wwn_& switch_wwn) {
   constexpr size_t kRoom = 32;  // longer texts are cut
-  char name[CIM_FSPF_LINK_NAME_ROOM] = {};
   const int number = static_cast<int>(interface_of(port));
-  if (write_link_name(name, port, switch_wwn)) {
-    std::snprintf(keys.device_id, kRoom, "%s", name);
-  } else if (port.physical) {
-    std::snprintf(keys.device_id, kRoom, "%s_%d", keys.system_name, number);
-  } else {
-    std::snprintf(keys.device_id, kRoom, "%s_%d_%d", keys.system_name,
-                  static_cast<int>(port.link->word_0), number);
+  if (!write_link_name(keys.device_id, port, switch_wwn)) {
+    if (port.physical) {
+      std::snprintf(keys.device_id, sizeof keys.device_id, "%s_%d", keys.system_name, number);
+    } else {
+      std::snprintf(keys.device_id, sizeof keys.device_id, "%s_%d_%d", keys.system_name,
+                    static_cast<int>(port.link->word_0), number);
+    }
   }
+  keys.device_id[kRoom - 1] = '\0';
 }
 
 PortKeys keys_of(const char* cls, const LinkPort& port) {
