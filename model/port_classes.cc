@@ -9,7 +9,6 @@
 #include <switch_platform/port_manager.h>
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 
 #include "model/port_texts.h"
@@ -340,13 +339,14 @@ PortKeys keys_of(const char* cls, const AttachedPort& port) {
 
 // The FC-4 types that the device has registered, if any.
 void write_fc4_types(ObjectWriter& out, const ns_api_register_req_& entry) {
-  std::array<uint16_t, 256> types;
+  constexpr size_t kTypes = 256;
+  uint16_t types[kTypes];
   size_t count = 0;
-  for (uint16_t type = 0; type < types.size(); ++type) {
+  for (size_t type = 0; type < kTypes; ++type) {
     if (ns_cim_is_set_fc4_type(entry.fc4_types, static_cast<uint8_t>(type)) != 0)
-      types[count++] = type;
+      types[count++] = static_cast<uint16_t>(type);
   }
-  if (count != 0) out.uint16s("ActiveFC4Types", {types.data(), count});
+  if (count != 0) out.uint16s("ActiveFC4Types", {types, count});
 }
 
 void write_attached_port(ObjectWriter& out, const char* cls, const AttachedPort& port) {

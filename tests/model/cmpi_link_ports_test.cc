@@ -272,6 +272,14 @@ TEST_F(CmpiLinkPorts, ADeviceWithoutFc4TypesShowsNone) {
   EXPECT_EQ(broker_.property(instance(entry, 0, 0), "ActiveFC4Types"), "none");
 }
 
+TEST_F(CmpiLinkPorts, ADeviceWithEveryFc4TypeShowsThemAll) {
+  const ns_api_register_req_ entry = records::entry(records::disk_bytes().put(36, Bytes(32, 0xff)));
+  std::string all = "uint16[] {0";
+  for (int type = 1; type < 256; ++type)
+    all += ", " + std::to_string(type);
+  EXPECT_EQ(broker_.property(instance(entry, 0, 0), "ActiveFC4Types"), all + "}");
+}
+
 // ---- endpoints
 
 TEST_F(CmpiLinkPorts, TheNearEndpointIsKnownByTheLinkAndTheSwitchOfItsDomain) {
