@@ -159,6 +159,8 @@ void ask_name_server(int32_t q, const wwn_& wwn) {
 
 }  // namespace
 
+#include "fuzz/fuzzed_services.h"
+
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   constexpr int32_t kQueue = 7;
   mts_q = kQueue;

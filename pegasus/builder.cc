@@ -1,8 +1,11 @@
 #include "pegasus/builder.h"
 
 #include <Pegasus/Common/CIMName.h>
+#include <Pegasus/Common/Exception.h>
 #include <Pegasus/Common/System.h>
 #include <cim_utils/provider_util.h>
+
+#include <cstdio>
 
 namespace cim_utils {
 
@@ -38,12 +41,23 @@ model::ObjectWriter* PegasusBuilder::open_instance(const char* cls, const char* 
   return open_instance(cls, ns);
 }
 
-model::Ref PegasusBuilder::close_path(model::ObjectWriter*) {
+model::Ref PegasusBuilder::make_path() {
   if (closed_count_ == closed_.size()) return {};  // no class needs so many
-  auto& path = closed_[closed_count_++];
+  auto& path = closed_[closed_count_];
   path.emplace(Pegasus::System::getHostName(), CIMNamespaceName(path_.ns), CIMName(path_.cls),
                path_.keys);
+  ++closed_count_;
   return {&*path};
+}
+
+model::Ref PegasusBuilder::close_path(model::ObjectWriter*) {
+  if (bad_path_text_ == nullptr) return make_path();
+  try {
+    return make_path();
+  } catch (const Pegasus::Exception& e) {
+    std::printf("%s%s", bad_path_text_, static_cast<const char*>(e.getMessage().getCString()));
+    return {};
+  }
 }
 
 model::Object PegasusBuilder::close_instance(model::ObjectWriter*) {

@@ -17,6 +17,11 @@ namespace cim_utils {
 
 class PegasusBuilder final : public model::Builder {
  public:
+  PegasusBuilder() = default;
+  // With a text, a path that cannot be made is told on standard output, the text and then the
+  // exception's message, and left out; otherwise the exception passes to the caller.
+  explicit PegasusBuilder(const char* bad_path_text) : bad_path_text_(bad_path_text) {}
+
   model::Face face() const override { return model::Face::pegasus; }
   int32_t queue() const override;
   bool instances_have_paths() const override { return true; }
@@ -70,6 +75,9 @@ class PegasusBuilder final : public model::Builder {
     void set(const char* name, const Pegasus::CIMValue& value) override;
   };
 
+  model::Ref make_path();
+
+  const char* bad_path_text_ = nullptr;
   PathWriter path_;
   InstanceWriter instance_;
   // Closed paths. An association's instance makes the most: two ends, the ends of its path again,

@@ -23,6 +23,9 @@
 #include <cim_utils/export.h>
 #include <cim_utils/fabric_configuration.h>
 #include <switch_platform/records_domain_manager.h>
+#include <switch_platform/records_fspf.h>
+#include <switch_platform/records_name_server.h>
+#include <switch_platform/records_port_manager.h>
 #include <switch_platform/records_vsan.h>
 
 class CIM_UTILS_EXPORT ProviderUtil {
@@ -174,6 +177,161 @@ class CIM_UTILS_EXPORT ProviderUtil {
                                                    const Pegasus::String& nameSpace,
                                                    vsanNewEntry_t* vsan, mts_dm_sw_conf_* swConf,
                                                    fcs_cim_ie_* element);
+
+  // A port of the own switch. One that is an Ethernet port (a physical one, a channel of such ones,
+  // the management port, FCIP, iSCSI) is of class "VEXOR_EthernetPort", whatever className says.
+  // The instance asks as fcport_build_instance_pm of the CMPI face, the optics on that face's queue
+  // (mts_q), deliberately.
+  static Pegasus::CIMObjectPath fcport_fill_reference(const char* className,
+                                                      const Pegasus::String& nameSpace,
+                                                      pm_port_info_* port);
+  static Pegasus::CIMInstance fcport_build_instance(const char* className,
+                                                    const Pegasus::String& nameSpace,
+                                                    pm_port_info_* port);
+  static Pegasus::CIMObject fcport_build_object(const char* className,
+                                                const Pegasus::String& nameSpace,
+                                                pm_port_info_* port);
+
+  // The port at one end of a link between switches: at the end that advertised it for local not
+  // zero, else at the far end. wwn (8 bytes) is that of the switch at that end, which is named by
+  // itself for physical not zero, else by its part in the VSAN. index and flag are not used.
+  static Pegasus::CIMObjectPath fcport_fill_reference(int index, const char* className,
+                                                      const Pegasus::String& nameSpace,
+                                                      fspfLinkEntry* link, unsigned char* wwn,
+                                                      unsigned char physical, unsigned char flag,
+                                                      unsigned char local);
+  static Pegasus::CIMInstance fcport_build_instance(int index, const char* className,
+                                                    const Pegasus::String& nameSpace,
+                                                    fspfLinkEntry* link, unsigned char* wwn,
+                                                    unsigned char physical, unsigned char flag,
+                                                    unsigned char local);
+  static Pegasus::CIMObject fcport_build_object(int index, const char* className,
+                                                const Pegasus::String& nameSpace,
+                                                fspfLinkEntry* link, unsigned char* wwn,
+                                                unsigned char physical, unsigned char flag,
+                                                unsigned char local);
+
+  // The same by the WWN as a record.
+  static Pegasus::CIMObjectPath fcport_fill_reference(int index, const char* className,
+                                                      const Pegasus::String& nameSpace,
+                                                      fspfLinkEntry* link, wwn_* wwn,
+                                                      unsigned char physical, unsigned char flag,
+                                                      unsigned char local);
+  static Pegasus::CIMInstance fcport_build_instance(int index, const char* className,
+                                                    const Pegasus::String& nameSpace,
+                                                    fspfLinkEntry* link, wwn_* wwn,
+                                                    unsigned char physical, unsigned char flag,
+                                                    unsigned char local);
+  static Pegasus::CIMObject fcport_build_object(int index, const char* className,
+                                                const Pegasus::String& nameSpace,
+                                                fspfLinkEntry* link, wwn_* wwn,
+                                                unsigned char physical, unsigned char flag,
+                                                unsigned char local);
+
+  // The port at one end of an attachment: of the switch for fabric_side not zero, else of the
+  // device. Does not throw for a path that cannot be made: one line says so, and there is none.
+  static Pegasus::CIMObjectPath fcport_fill_reference(const char* className,
+                                                      const Pegasus::String& nameSpace,
+                                                      ns_api_register_req_* entry,
+                                                      unsigned char physical,
+                                                      unsigned char fabric_side);
+  static Pegasus::CIMInstance fcport_build_instance(const char* className,
+                                                    const Pegasus::String& nameSpace,
+                                                    ns_api_register_req_* entry,
+                                                    unsigned char physical,
+                                                    unsigned char fabric_side);
+  static Pegasus::CIMObject fcport_build_object(const char* className,
+                                                const Pegasus::String& nameSpace,
+                                                ns_api_register_req_* entry, unsigned char physical,
+                                                unsigned char fabric_side);
+
+  // The protocol endpoint at one end of a link; the domain manager is asked on `queue`.
+  static Pegasus::CIMObjectPath pe_fill_reference(const char* className,
+                                                  const Pegasus::String& nameSpace, int queue,
+                                                  fspfLinkEntry* link, unsigned char local);
+  static Pegasus::CIMInstance pe_build_instance(const char* className,
+                                                const Pegasus::String& nameSpace, int queue,
+                                                fspfLinkEntry* link, unsigned char local);
+  static Pegasus::CIMObject pe_build_object(const char* className, const Pegasus::String& nameSpace,
+                                            int queue, fspfLinkEntry* link, unsigned char local);
+
+  // The protocol endpoint of a port of the own switch.
+  static Pegasus::CIMObjectPath pe_fill_reference(const char* className,
+                                                  const Pegasus::String& nameSpace,
+                                                  pm_port_info_* port);
+  static Pegasus::CIMInstance pe_build_instance(const char* className,
+                                                const Pegasus::String& nameSpace,
+                                                pm_port_info_* port);
+  static Pegasus::CIMObject pe_build_object(const char* className, const Pegasus::String& nameSpace,
+                                            pm_port_info_* port);
+
+  // The protocol endpoint at one end of an attachment.
+  static Pegasus::CIMObjectPath pe_fill_reference(const char* className,
+                                                  const Pegasus::String& nameSpace,
+                                                  ns_api_register_req_* entry,
+                                                  unsigned char fabric_side);
+  static Pegasus::CIMInstance pe_build_instance(const char* className,
+                                                const Pegasus::String& nameSpace,
+                                                ns_api_register_req_* entry,
+                                                unsigned char fabric_side);
+  static Pegasus::CIMObject pe_build_object(const char* className, const Pegasus::String& nameSpace,
+                                            ns_api_register_req_* entry, unsigned char fabric_side);
+
+  // The ports of one node, known by a text or by the node's WWN.
+  static Pegasus::CIMObjectPath logical_port_group_fill_reference(const char* className,
+                                                                  const Pegasus::String& nameSpace,
+                                                                  const char* text);
+  static Pegasus::CIMInstance logical_port_group_build_instance(const char* className,
+                                                                const Pegasus::String& nameSpace,
+                                                                const char* text);
+  static Pegasus::CIMObject logical_port_group_build_object(const char* className,
+                                                            const Pegasus::String& nameSpace,
+                                                            const char* text);
+  static Pegasus::CIMObjectPath logical_port_group_fill_reference(const char* className,
+                                                                  const Pegasus::String& nameSpace,
+                                                                  wwn_* wwn);
+  static Pegasus::CIMInstance logical_port_group_build_instance(const char* className,
+                                                                const Pegasus::String& nameSpace,
+                                                                wwn_* wwn);
+  static Pegasus::CIMObject logical_port_group_build_object(const char* className,
+                                                            const Pegasus::String& nameSpace,
+                                                            wwn_* wwn);
+
+  // What a port has counted: by its interface index, and from its counters.
+  static Pegasus::CIMObjectPath fcport_stat_fill_reference(const char* className,
+                                                           const Pegasus::String& nameSpace,
+                                                           unsigned int if_index);
+  static Pegasus::CIMInstance fcport_stat_build_instance(const char* className,
+                                                         const Pegasus::String& nameSpace,
+                                                         fcIfAllCounters_t* counters);
+  static Pegasus::CIMObject fcport_stat_build_object(const char* className,
+                                                     const Pegasus::String& nameSpace,
+                                                     fcIfAllCounters_t* counters);
+
+  // Ties a port to its statistics, by two references: "ManagedElement", "Stats".
+  static Pegasus::CIMObjectPath port_stat_fill_reference(const char* className,
+                                                         const Pegasus::String& nameSpace,
+                                                         const Pegasus::CIMObjectPath& portRef,
+                                                         const Pegasus::CIMObjectPath& statRef);
+  static Pegasus::CIMInstance port_stat_build_instance(const char* className,
+                                                       const Pegasus::String& nameSpace,
+                                                       const Pegasus::CIMObjectPath& portRef,
+                                                       const Pegasus::CIMObjectPath& statRef);
+  static Pegasus::CIMObject port_stat_build_object(const char* className,
+                                                   const Pegasus::String& nameSpace,
+                                                   const Pegasus::CIMObjectPath& portRef,
+                                                   const Pegasus::CIMObjectPath& statRef);
+
+  // The same for a port of the own switch.
+  static Pegasus::CIMObjectPath port_stat_fill_reference(const char* className,
+                                                         const Pegasus::String& nameSpace,
+                                                         pm_port_info_* port);
+  static Pegasus::CIMInstance port_stat_build_instance(const char* className,
+                                                       const Pegasus::String& nameSpace,
+                                                       pm_port_info_* port);
+  static Pegasus::CIMObject port_stat_build_object(const char* className,
+                                                   const Pegasus::String& nameSpace,
+                                                   pm_port_info_* port);
 };
 
 // Assigns to `property` a new one with the given name and an array whose only element is `value`,

@@ -5,10 +5,14 @@
 #include <set>
 
 #include "model/computer_system.h"
+#include "model/port_classes.h"
+#include "model/port_endpoints.h"
+#include "model/port_statistics.h"
 #include "model/switch_classes.h"
 #include "schema/repository.h"
 #include "tests/model/computer_system_records.h"
 #include "tests/model/listing_builder.h"
+#include "tests/model/port_records.h"
 #include "tests/model/switch_records.h"
 #include "tests/model/switch_replies.h"
 #include "tests/support/capture.h"
@@ -24,7 +28,87 @@ struct Description {
   std::function<void(Builder&)> write;
 };
 
-const std::vector<Description>& descriptions() {
+const std::vector<Description>& port_descriptions() {
+  // Ports of a link, one with a number on its module and one without; optics would ask the port
+  // manager.
+  static pm_port_info_ port = records::port(records::fc12_bytes().byte(201, 0));
+  static pm_port_info_ port_0 =
+      records::port(records::fc12_bytes().host32(0, records::kFc11).byte(201, 0));
+  static pm_port_info_ ethernet = records::port(records::ethernet_bytes().host32(104, 10));
+  static pm_port_info_ management = records::port_of(records::kMgmt0);
+  static fspfLinkEntry link = records::link(records::link_bytes());
+  static ns_api_register_req_ disk = records::entry(records::disk_bytes());
+  static fcIfAllCounters_t counters =
+      records::record_of<fcIfAllCounters_t>(records::counters_by_offset(records::kFc12));
+  static wwn_ wwn = {{0x20, 0x0a, 0x00, 0x0d, 0xec, 0x0a, 0x1b, 0x4d}};
+  constexpr const char* ns = "root/cimv2";
+  constexpr const char* fc = "VEXOR_FCPort";
+  constexpr const char* eth = "VEXOR_EthernetPort";
+  constexpr const char* endpoint = "VEXOR_ProtocolEndPoint";
+  constexpr const char* group = "VEXOR_LogicalPortGroup";
+  constexpr const char* statistics = "VEXOR_FCPortStatistics";
+  constexpr const char* data = "VEXOR_FCPortStatisticalData";
+  constexpr const char* capabilities = "VEXOR_FCPortCapabilities";
+  constexpr const char* settings = "VEXOR_FCPortSettings";
+  static const LinkPort link_end{&link, wwn.bytes, false, false};
+  static const AttachedPort device{&disk, false, false};
+  static const AttachedPort attached_to{&disk, true, true};
+  static const std::vector<Description> all = {
+      {fc, false, [](Builder& b) { port_reference(b, fc, ns, &port); }},
+      {fc, true, [](Builder& b) { port_instance(b, fc, ns, &port, nullptr); }},
+      {fc, true, [](Builder& b) { port_instance(b, fc, ns, &port_0, nullptr); }},
+      {eth, false, [](Builder& b) { port_reference(b, fc, ns, &ethernet); }},
+      {eth, true, [](Builder& b) { port_instance(b, fc, ns, &ethernet, nullptr); }},
+      {eth, true, [](Builder& b) { port_instance(b, fc, ns, &management, nullptr); }},
+      {fc, false, [](Builder& b) { port_reference(b, fc, ns, link_end); }},
+      {fc, true, [](Builder& b) { port_instance(b, fc, ns, link_end, nullptr); }},
+      {fc, false, [](Builder& b) { port_reference(b, fc, ns, device); }},
+      {fc, true, [](Builder& b) { port_instance(b, fc, ns, device, nullptr); }},
+      {fc, true, [](Builder& b) { port_instance(b, fc, ns, attached_to, nullptr); }},
+      {endpoint, false, [](Builder& b) { endpoint_reference(b, endpoint, ns, 7, &link, true); }},
+      {endpoint, true,
+       [](Builder& b) { endpoint_instance(b, endpoint, ns, 7, &link, true, nullptr); }},
+      {endpoint, true, [](Builder& b) { endpoint_instance(b, endpoint, ns, &port, nullptr); }},
+      {endpoint, true,
+       [](Builder& b) { endpoint_instance(b, endpoint, ns, &disk, true, nullptr); }},
+      {group, false, [](Builder& b) { port_group_reference(b, group, ns, &wwn); }},
+      {group, true, [](Builder& b) { port_group_instance(b, group, ns, &wwn, nullptr); }},
+      {statistics, false,
+       [](Builder& b) { port_statistics_reference(b, statistics, ns, records::kFc12); }},
+      {statistics, true,
+       [](Builder& b) { port_statistics_instance(b, statistics, ns, &counters, nullptr); }},
+      {data, false, [](Builder& b) { port_statistical_data_reference(b, data, ns, &port); }},
+      {data, true, [](Builder& b) { port_statistical_data_instance(b, data, ns, &port); }},
+      {capabilities, false,
+       [](Builder& b) { port_capabilities_reference(b, capabilities, ns, &port); }},
+      {capabilities, true,
+       [](Builder& b) { port_capabilities_instance(b, capabilities, ns, &port, nullptr); }},
+      {settings, false, [](Builder& b) { port_settings_reference(b, settings, ns, &port); }},
+      {settings, true, [](Builder& b) { port_settings_instance(b, settings, ns, &port, nullptr); }},
+  };
+  return all;
+}
+
+// Types that a class does not declare and that are written all the same; providers convert them.
+struct KeptDifference {
+  const char* cls;
+  const char* property;
+  const char* type;
+};
+constexpr KeptDifference kKeptDifferences[] = {
+    {"VEXOR_FCPort", "PortNumber", "sint32"},
+    {"VEXOR_EthernetPort", "PortNumber", "sint32"},
+};
+
+const KeptDifference* kept_difference(const std::string& cls, const ListingBuilder::Entry& entry) {
+  for (const KeptDifference& difference : kKeptDifferences) {
+    if (cls == difference.cls && entry.name == difference.property && entry.type == difference.type)
+      return &difference;
+  }
+  return nullptr;
+}
+
+const std::vector<Description>& switch_descriptions() {
   static vsanNewEntry_t vsan = records::vsan_10();
   static mts_dm_sw_conf_ conf = records::configuration_10();
   static fcs_cim_ie_ element = records::own_element();
@@ -101,11 +185,22 @@ const std::vector<Description>& descriptions() {
   return all;
 }
 
+const std::vector<Description>& descriptions() {
+  static const std::vector<Description> all = [] {
+    std::vector<Description> together = switch_descriptions();
+    together.insert(together.end(), port_descriptions().begin(), port_descriptions().end());
+    return together;
+  }();
+  return all;
+}
+
 // Every service answers with what has all properties.
 test_support::Response answer(const test_support::Request& request) {
   if (request.opcode == 264) return test_support::Response::with(records::domain_configuration_1());
   if (request.opcode == 1282) return test_support::Response::with(records::own_wwn());
   if (request.opcode == 149) return test_support::Response::with(records::vsan_1(1));
+  if (request.opcode == 53) return test_support::Response::with(records::one_link());
+  if (request.opcode == 267) return test_support::Response::with(records::switch_239());
   return test_support::Response::failed(17);
 }
 
@@ -136,6 +231,7 @@ std::string declared_type(const cim::schema::Property& property) {
 }
 
 TEST(Descriptions, WriteDeclaredPropertiesOfDeclaredTypes) {
+  std::set<const KeptDifference*> seen;
   for (const Description& description : descriptions()) {
     const auto* cls = classes().find(description.cls);
     ASSERT_NE(cls, nullptr) << description.cls;
@@ -145,9 +241,14 @@ TEST(Descriptions, WriteDeclaredPropertiesOfDeclaredTypes) {
       const auto* property = classes().property(*cls, entry.name);
       ASSERT_NE(property, nullptr) << description.cls << "." << entry.name;
       EXPECT_EQ(entry.name, property->name) << "letter case of " << description.cls;
+      if (const KeptDifference* kept = kept_difference(description.cls, entry)) {
+        seen.insert(kept);
+        continue;
+      }
       EXPECT_EQ(entry.type, declared_type(*property)) << description.cls << "." << entry.name;
     }
   }
+  EXPECT_EQ(seen.size(), std::size(kKeptDifferences)) << "a difference that no longer is one";
 }
 
 TEST(Descriptions, ReferencesHoldExactlyTheKeysAndInstancesAllOfThem) {

@@ -196,5 +196,82 @@ TEST_F(MofFolder, Prepares_the_switch_classes) {
             "DomainIDLocked boolean, PrincipalPriority uint16");
 }
 
+TEST_F(MofFolder, Has_the_port_classes) {
+  const struct {
+    const char* name;
+    const char* superclass;
+  } classes[] = {{"VEXOR_FCPort", "CIM_FCPort"},
+                 {"VEXOR_EthernetPort", "CIM_EthernetPort"},
+                 {"VEXOR_FCPortStatistics", "CIM_FCPortStatistics"},
+                 {"VEXOR_FCPortStatisticalData", "CIM_ElementStatisticalData"},
+                 {"VEXOR_ProtocolEndPoint", "CIM_ProtocolEndpoint"},
+                 {"VEXOR_LogicalPortGroup", "CIM_LogicalPortGroup"},
+                 {"VEXOR_FCPortCapabilities", "CIM_FCPortCapabilities"},
+                 {"VEXOR_FCPortSettings", "CIM_LogicalPortSettings"}};
+  for (const auto& c : classes) {
+    ASSERT_NE(agent.find(c.name), nullptr) << c.name;
+    EXPECT_FALSE(agent.find(c.name)->is_abstract) << c.name;
+    EXPECT_TRUE(agent.is_a(c.name, c.superclass)) << c.name;
+  }
+  EXPECT_TRUE(agent.is_a("CIM_FCPort", "CIM_LogicalDevice"));
+  EXPECT_TRUE(agent.is_a("CIM_EthernetPort", "CIM_NetworkPort"));
+}
+
+TEST_F(MofFolder, Declares_the_properties_of_an_FC_port) {
+  EXPECT_EQ(property_list(agent, "VEXOR_FCPort",
+                          {"DeviceID",
+                           "SystemName",
+                           "SystemCreationClassName",
+                           "CreationClassName",
+                           "ElementName",
+                           "OperationalStatus",
+                           "EnabledDefault",
+                           "EnabledState",
+                           "PermanentAddress",
+                           "VsanId",
+                           "VsanName",
+                           "PeerPortWWN",
+                           "IdentifyingDescriptions",
+                           "OtherIdentifyingInfo",
+                           "NetworkAddresses",
+                           "PortNumber",
+                           "PortType",
+                           "Speed",
+                           "MaxSpeed",
+                           "LinkTechnology",
+                           "SupportedMaximumTransmissionUnit",
+                           "ActiveMaximumTransmissionUnit",
+                           "SupportedCOS",
+                           "SupportedFC4Types",
+                           "ActiveFC4Types",
+                           "PortAvailability"}),
+            "ElementName string, OperationalStatus uint16[], EnabledState uint16, "
+            "EnabledDefault uint16, SystemCreationClassName string key, SystemName string key, "
+            "CreationClassName string key, DeviceID string key, OtherIdentifyingInfo string[], "
+            "IdentifyingDescriptions string[], Speed uint64, MaxSpeed uint64, PortType uint16, "
+            "PortNumber uint16, LinkTechnology uint16, PermanentAddress string, "
+            "NetworkAddresses string[], SupportedMaximumTransmissionUnit uint64, "
+            "ActiveMaximumTransmissionUnit uint64, SupportedCOS uint16[], "
+            "SupportedFC4Types uint16[], ActiveFC4Types uint16[], VsanId uint16, VsanName string, "
+            "PeerPortWWN string, PortAvailability uint16");
+}
+
+TEST_F(MofFolder, Declares_the_settings_of_a_port_as_changeable) {
+  EXPECT_EQ(property_list(agent, "VEXOR_FCPortSettings",
+                          {"InstanceID", "AutoSenseSpeed", "RequestedSpeed", "RequestedType"}),
+            "InstanceID string key, AutoSenseSpeed boolean, RequestedSpeed uint64, "
+            "RequestedType uint16");
+  for (const char* name : {"AutoSenseSpeed", "RequestedSpeed", "RequestedType"}) {
+    const Property* property = agent.property(*agent.find("VEXOR_FCPortSettings"), name);
+    EXPECT_NE(find_qualifier(property->qualifiers, "Write"), nullptr) << name;
+  }
+}
+
+TEST_F(MofFolder, Ties_a_port_to_its_statistics) {
+  EXPECT_EQ(property_list(agent, "VEXOR_FCPortStatisticalData", {"ManagedElement", "Stats"}),
+            "ManagedElement CIM_ManagedElement key, Stats VEXOR_FCPortStatistics key");
+  EXPECT_TRUE(agent.find("VEXOR_FCPortStatisticalData")->is_association);
+}
+
 }  // namespace
 }  // namespace cim::schema
