@@ -102,6 +102,7 @@ class Class {
   virtual bool can_remove() const = 0;
   // The properties that `modify` looks at, and a null pointer; null: it judges all of them itself.
   virtual const char* const* changeable() const = 0;
+  virtual bool has_methods() const = 0;
   virtual bool has_method(const char* method) const = 0;
 
   virtual std::unique_ptr<Objects> list(int32_t q) const = 0;
@@ -170,6 +171,7 @@ class RecordClass final : public Class {
   bool can_modify() const override { return description_.modify != nullptr; }
   bool can_remove() const override { return description_.remove != nullptr; }
   const char* const* changeable() const override { return description_.changeable; }
+  bool has_methods() const override { return !description_.methods.empty(); }
   bool has_method(const char* method) const override { return find_method(method) != nullptr; }
 
   std::unique_ptr<Objects> list(int32_t q) const override { return objects(description_.list(q)); }

@@ -37,7 +37,8 @@ constexpr const char* kExamples =
 constexpr const char* kSimulatorExamples =
     "  vexor-cim fabric > lab.json                     the simulated fabric, to edit\n"
     "  vexor-cim --fabric lab.json --state lab.state enumerate VEXOR_Vsan\n"
-    "  vexor-cim --generate vsans=20,seed=7 enumerate VEXOR_Vsan\n";
+    "  vexor-cim --generate vsans=20,seed=7 enumerate VEXOR_Vsan\n"
+    "  vexor-cim switch --socket lab.sock              the switch for several processes\n";
 #else
 constexpr const char* kSimulatorExamples = "";
 #endif
@@ -132,6 +133,18 @@ constexpr const char* kFabricExamples =
     "  vexor-cim fabric > lab.json                       the built-in fabric, to edit\n"
     "  vexor-cim --generate switches=8,seed=7 fabric     eight made-up switches\n"
     "  vexor-cim --state lab.state fabric                what changes have made of it";
+
+constexpr const char* kSwitchExamples =
+    "Runs until it is interrupted (SIGINT or SIGTERM). Every process with SWITCH_SIM_SOCKET=PATH\n"
+    "in its environment then uses this switch in place of one of its own: another vexor-cim, or "
+    "an\n"
+    "object manager that runs the providers. Changes are seen by all of them at once. Only the "
+    "user\n"
+    "who started it can connect.\n"
+    "\n"
+    "Examples:\n"
+    "  vexor-cim --fabric lab.json --state lab.state switch --socket /tmp/lab.sock\n"
+    "  SWITCH_SIM_SOCKET=/tmp/lab.sock vexor-cim enumerate VEXOR_Vsan";
 #endif
 
 constexpr const char* kDeleteExamples =
@@ -397,6 +410,12 @@ Parsed parse_command_line(int argc, const char* const* argv) {
   add_platform_options(app, options.platform);
   commands.add(Command::fabric, "fabric", "print the simulated fabric as a fabric file",
                kFabricExamples);
+  commands
+      .add(Command::serve_switch, "switch", "run the simulated switch for other processes",
+           kSwitchExamples)
+      .add_option("--socket", options.socket, "where they connect: the name of a socket to make")
+      ->required()
+      ->type_name("PATH");
 #endif
 
   try {

@@ -24,6 +24,7 @@ enum class Command {
   create,
   remove,
   fabric,
+  serve_switch,
 };
 enum class Format { table, mof, json };
 
@@ -42,6 +43,7 @@ struct Options {
   std::string mof;        ///< file or folder; empty: look for it
   std::string providers;  ///< library; empty: look for it
   PlatformOptions platform;
+  std::string socket;  ///< where a switch is served
 
   std::string target;  ///< a class name, or the text of an object path
   bool all = false;

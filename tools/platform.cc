@@ -41,6 +41,8 @@ void prepare_platform(const PlatformOptions& options) {
 void check_platform() {
   const std::string problem = control::startup_problem();
   if (!problem.empty()) throw BadInput(problem);
+  const std::string unreachable = control::connection_problem();
+  if (!unreachable.empty()) throw BadInput("SWITCH_SIM_SOCKET: " + unreachable);
 }
 
 std::string platform_fabric() {

@@ -13,7 +13,8 @@ namespace vexor::tools {
 /// \throws BadInput when one of them cannot be used
 void prepare_platform(const PlatformOptions& options);
 
-/// \throws BadInput when the platform's own configuration is wrong
+/// \throws BadInput when the platform's own configuration is wrong, or another process's switch
+/// that it names does not answer
 void check_platform();
 
 /// The present fabric as a fabric file.

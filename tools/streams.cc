@@ -79,8 +79,12 @@ void Streams::error(std::string_view text) {
   std::fprintf(errors_, "vexor-cim: %.*s\n", static_cast<int>(text.size()), text.data());
 }
 
-std::string Streams::finish() {
+void Streams::flush() {
   if (std::fflush(results_) != 0 && problem_.empty()) problem_ = reason(errno);
+}
+
+std::string Streams::finish() {
+  flush();
   return problem_;
 }
 

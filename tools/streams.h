@@ -28,6 +28,8 @@ class Streams {
   void result(std::string_view text);
   /// Writes "vexor-cim: `text`" as a line to the standard error that the process was started with.
   void error(std::string_view text);
+  /// Hands the results so far on; what is wrong is told by finish().
+  void flush();
   /// \return an empty text, or why results were lost
   std::string finish();
 

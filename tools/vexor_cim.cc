@@ -17,6 +17,7 @@
 #include "tools/output.h"
 #include "tools/platform.h"
 #include "tools/streams.h"
+#include "tools/switch_command.h"
 
 namespace vexor::tools {
 namespace {
@@ -316,7 +317,8 @@ Outcome run_command(ObjectManager& manager, const Options& options) {
       return {create(manager, options)};
     case Command::remove:
       return {remove(manager, options)};
-    case Command::fabric:  // needs no classes: see outcome_of
+    case Command::fabric:  // need no classes: see outcome_of and run
+    case Command::serve_switch:
       break;
   }
   return {};
@@ -336,6 +338,7 @@ Outcome outcome_of(const Options& options) {
 
 int run(const Options& options, Streams& streams) {
   try {
+    if (options.command == Command::serve_switch) return serve_switch(options, streams);
     const Outcome outcome = outcome_of(options);
     streams.result(outcome.text);
     return outcome.status;

@@ -1,10 +1,12 @@
 #include "simulator/client/platform.h"
 
+#include <sys/un.h>
 #include <unistd.h>
 
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <new>
 
 #include "simulator/local/platform_status.h"
@@ -51,6 +53,13 @@ std::optional<std::string> Platform::problem_with_environment() {
   if (!trace.empty() && !log_.write_to(trace.c_str())) {
     return "SWITCH_SIM_TRACE: " + trace + ": " + strerror(errno);
   }
+  // Fabric and state are then the serving process's.
+  const std::string socket = environment("SWITCH_SIM_SOCKET");
+  if (!socket.empty()) {
+    auto problem = use_switch_at(socket);
+    if (problem) problem->insert(0, "SWITCH_SIM_SOCKET: ");
+    return problem;
+  }
   const std::string file = environment("SWITCH_SIM_FABRIC");
   if (!file.empty()) {
     auto read = read_fabric_file(file);
@@ -68,6 +77,7 @@ std::optional<std::string> Platform::problem_with_environment() {
 void Platform::install(Fabric fabric) {
   fabric_ = std::move(fabric);
   startup_problem_.clear();
+  connection_.reset();
 }
 
 std::optional<FabricError> Platform::keep_state_in(const std::string& path) {
@@ -79,8 +89,26 @@ std::optional<FabricError> Platform::keep_state_in(const std::string& path) {
     } else if (auto error = problem_of_new_file(path)) {
       return error;
     }
+    connection_.reset();
   }
   state_path_ = path;
+  return std::nullopt;
+}
+
+// Connects later: the switch may start after its clients. The path is made absolute now, since a
+// program that becomes a daemon changes its folder.
+std::optional<std::string> Platform::use_switch_at(const std::string& path) {
+  if (path.empty()) {
+    connection_.reset();
+    return std::nullopt;
+  }
+  std::error_code error;
+  const std::string absolute = std::filesystem::absolute(path, error).string();
+  if (error) return path + ": " + error.message();
+  if (absolute.size() >= sizeof(sockaddr_un::sun_path)) {
+    return absolute + ": the name of a socket has at most 107 bytes";
+  }
+  connection_ = std::make_unique<SwitchConnection>(absolute);
   return std::nullopt;
 }
 
@@ -95,6 +123,7 @@ std::unique_ptr<Carrier> Platform::open_carrier() {
 Outcome Platform::handle(const Request& request) {
   if (!startup_problem_.empty()) return services::refuse(status::kFabricNotUsable);
   if (recording_) return recording_->next_for(request);
+  if (connection_) return connection_->exchange(request, clock_);
   return request.operation == kSet ? change(request) : answer(request, fabric_, clock_.now());
 }
 
@@ -111,6 +140,18 @@ Outcome Platform::change(const Request& request) {
   }
   fabric_ = std::move(changed);
   return outcome;
+}
+
+TimedOutcome Platform::serve(const TimedRequest& timed) {
+  clock_.advance_to(timed.now);
+  const Token token = next_token_++;
+  log_.sent(token, timed.request, clock_.now());
+  Outcome logged = handle(timed.request);
+  TimedOutcome answer{clock_.now(), logged};
+  logged.token = token;
+  logged.due += clock_.now();
+  log_.taken(logged);
+  return answer;
 }
 
 int32_t Platform::bind() {

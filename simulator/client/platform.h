@@ -20,6 +20,7 @@
 #include "simulator/transport/message.h"
 #include "simulator/transport/recording.h"
 #include "simulator/transport/request_log.h"
+#include "simulator/transport/switch_connection.h"
 #include "simulator/transport/virtual_clock.h"
 
 // A message of the transport: a request that was sent, or a reply that was received.
@@ -82,11 +83,21 @@ class Platform {
 
   // For the control interface.
   const Fabric& fabric() const { return fabric_; }
-  void install(Fabric fabric);  // also ends what was wrong at the start
+  // Also ends what was wrong at the start, and the use of another process's switch.
+  void install(Fabric fabric);
 
   // Answers from what the file holds, where it exists, and saves every change of the fabric to it
   // before the change is acknowledged. An empty path ends that.
   std::optional<FabricError> keep_state_in(const std::string& path);
+
+  // Answers from the switch that another process serves at a socket. An empty path ends that.
+  std::optional<std::string> use_switch_at(const std::string& path);
+
+  // Null while the fabric is this process's own.
+  SwitchConnection* connection() { return connection_.get(); }
+
+  // Answers a request of another process, and counts and logs it.
+  TimedOutcome serve(const TimedRequest& request);
   VirtualClock& clock() { return clock_; }
   RequestLog& log() { return log_; }
   FaultPlan& faults() { return faults_; }
@@ -117,7 +128,8 @@ class Platform {
   RequestLog log_;
   FaultPlan faults_;
   std::unique_ptr<Recording> recording_;
-  std::string state_path_;       // empty: changes are not saved
+  std::unique_ptr<SwitchConnection> connection_;  // null: the fabric is this process's own
+  std::string state_path_;                        // empty: changes are not saved
   std::string startup_problem_;  // not empty: the environment cannot be used, nothing is answered
 
   int32_t next_queue_ = 1;

@@ -1,8 +1,12 @@
 #include "simulator/control/control.h"
 
+#include <cstring>
+#include <stdexcept>
+
 #include "simulator/client/platform.h"
 #include "simulator/fabric/generator.h"
 #include "simulator/local/fabric_distribution_response.h"
+#include "simulator/server/switch_server.h"
 
 namespace switch_sim::control {
 namespace {
@@ -23,10 +27,30 @@ std::optional<std::string> install_read(ReadFabric read) {
   return install(std::get<Fabric>(std::move(read)));
 }
 
+std::string no_answer(const SwitchConnection& connection, int error) {
+  return connection.path() + ": no switch answers there: " + strerror(error);
+}
+
+std::string present_text(Platform& platform) {
+  SwitchConnection* const connection = platform.connection();
+  if (connection == nullptr) return write_fabric(platform.fabric());
+  std::string text;
+  const int error = connection->ask_fabric(text);
+  if (error != 0) throw std::runtime_error(no_answer(*connection, error));
+  return text;
+}
+
+Fabric present_fabric(Platform& platform) {
+  if (platform.connection() == nullptr) return platform.fabric();
+  auto read = parse_fabric(present_text(platform), platform.connection()->path());
+  if (auto* error = std::get_if<FabricError>(&read)) throw std::runtime_error(error->message);
+  return std::get<Fabric>(std::move(read));
+}
+
 }  // namespace
 
 Fabric fabric() {
-  return locked([](Platform& platform) { return platform.fabric(); });
+  return locked(present_fabric);
 }
 
 Fabric default_fabric() {
@@ -53,16 +77,43 @@ std::optional<std::string> install_generated(const std::string& description) {
 }
 
 std::string fabric_text() {
-  return locked([](Platform& platform) { return write_fabric(platform.fabric()); });
+  return locked(present_text);
 }
 
 std::optional<std::string> save(const std::string& path) {
-  return locked(
-      [&](Platform& platform) { return text_of(save_fabric_file(platform.fabric(), path)); });
+  return locked([&](Platform& platform) {
+    return text_of(save_fabric_file(present_fabric(platform), path));
+  });
 }
 
 std::optional<std::string> keep_state_in(const std::string& path) {
   return locked([&](Platform& platform) { return text_of(platform.keep_state_in(path)); });
+}
+
+std::optional<std::string> use_switch_at(const std::string& path) {
+  return locked([&](Platform& platform) { return platform.use_switch_at(path); });
+}
+
+std::string connection_problem() {
+  return locked([](Platform& platform) {
+    SwitchConnection* const connection = platform.connection();
+    const int error = connection != nullptr ? connection->connect() : 0;
+    return error != 0 ? no_answer(*connection, error) : std::string();
+  });
+}
+
+std::optional<std::string> serve(const std::string& path, int stop,
+                                 const std::function<void()>& serving) {
+  use_switch_at("");
+  SwitchServer server({
+      [](const TimedRequest& request) {
+        return locked([&](Platform& platform) { return platform.serve(request); });
+      },
+      [] { return fabric_text(); },
+  });
+  if (auto problem = server.open(path)) return problem;
+  serving();
+  return server.run(stop);
 }
 
 void reset() {

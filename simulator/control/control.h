@@ -4,6 +4,7 @@
 #ifndef SIMULATOR_CONTROL_CONTROL_H
 #define SIMULATOR_CONTROL_CONTROL_H
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -37,8 +38,23 @@ std::optional<std::string> save(const std::string& path);
 // to it before the change is acknowledged. An empty path ends that.
 std::optional<std::string> keep_state_in(const std::string& path);
 
-// Back to the default fabric, an empty log, no faults, no replay, no state file, counts at
-// zero, and a clock at zero. Queues stay bound.
+// Answers from the switch that another process serves at a socket (`serve`), as SWITCH_SIM_SOCKET
+// does it, until a fabric is installed or a state file chosen; an empty path ends it, too. The
+// serving process may start later. `fabric`, `fabric_text` and `save` then ask it, and throw
+// std::runtime_error when it does not answer. The result tells what is wrong with the path.
+std::optional<std::string> use_switch_at(const std::string& path);
+
+// Why the serving process cannot be reached now; empty: it can, or none is used.
+std::string connection_problem();
+
+// Serves this process's own switch at a socket, until something can be read from the descriptor
+// `stop`. `serving` is called when clients can connect. The result tells why it could not begin or
+// go on.
+std::optional<std::string> serve(const std::string& path, int stop,
+                                 const std::function<void()>& serving);
+
+// Back to the default fabric, an empty log, no faults, no replay, no state file, no other process's
+// switch, counts at zero, and a clock at zero. Queues stay bound.
 void reset();
 
 // The environment could not be used (the text tells why), and every request is refused.

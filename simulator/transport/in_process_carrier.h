@@ -1,4 +1,5 @@
-// Carries requests to services of the same process.
+// Carries requests to a handler that answers within the call: services of the same process, or a
+// connection to those of another one.
 #ifndef SIMULATOR_TRANSPORT_IN_PROCESS_CARRIER_H
 #define SIMULATOR_TRANSPORT_IN_PROCESS_CARRIER_H
 

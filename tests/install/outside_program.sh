@@ -23,3 +23,8 @@ $compiler -std=c99 -Wall -Wextra -Wpedantic -Werror $flags -o print_vsans print_
 ./print_vsans >out 2>err
 printf '1 VSAN0001 up\n2 VSAN0002 up\n' | cmp - out
 printf 'successfuly create mts response q\n' | cmp - err
+
+# What object managers need to find the providers is installed with them.
+for file in vexor_openpegasus.mof vexor_sfcb.reg vexor_classes.mof; do
+  grep -q VEXOR_PhysicalComputerSystem "share/vexor/registration/$file"
+done

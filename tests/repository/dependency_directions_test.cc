@@ -54,7 +54,8 @@ const std::map<std::string, std::set<std::string>>& allowed() {
       {"cmpi", with(records, {"common", "model", "cmpi", "<cmpi>", "<cim_utils cmpi>"})},
       {"pegasus",
        with(records, {"common", "model", "pegasus", "<Pegasus>", "<cim_utils pegasus>"})},
-      {"providers", with(records, {"providers", "<cmpi>", "<cim_utils cmpi>"})},
+      {"providers", with(records, {"providers", "<cmpi>", "<cim_utils cmpi>", "<Pegasus>",
+                                   "<cim_utils pegasus>"})},
       {"schema", {"schema"}},
       {"host", {"host", "schema", "<cmpi>"}},
       {"wbem", {"wbem", "host", "schema", "<cmpi>"}},
@@ -87,6 +88,21 @@ TEST(DependencyDirections, EveryIncludeGoesAlongAnArrow) {
     }
   }
   EXPECT_GT(files, 40);
+}
+
+TEST(DependencyDirections, ProvidersOfOneInterfaceDoNotKnowTheOther) {
+  static const std::set<std::string> of_cmpi = {"<cmpi>", "<cim_utils cmpi>"};
+  static const std::set<std::string> of_pegasus = {"<Pegasus>", "<cim_utils pegasus>"};
+  for (const path& file : repository::sources_below("providers")) {
+    const bool is_pegasus = file.string().find("/providers/pegasus/") != std::string::npos;
+    for (const std::string& include : includes_of(file)) {
+      const std::string area = area_of(include);
+      EXPECT_FALSE((is_pegasus ? of_cmpi : of_pegasus).contains(area)) << file << " " << include;
+      if (is_pegasus && area == "providers") {
+        EXPECT_TRUE(include.starts_with("providers/pegasus/")) << file << " " << include;
+      }
+    }
+  }
 }
 
 TEST(DependencyDirections, ProgramsReachTheSimulatorThroughItsControlOnly) {

@@ -180,6 +180,7 @@ TEST_F(Screens, Help_teaches_by_examples) {
   expect_screen("help_invoke.txt", {"invoke", "--help"});
   expect_screen("help_modify.txt", {"modify", "--help"});
   expect_screen("help_fabric.txt", {"fabric", "--help"});
+  expect_screen("help_switch.txt", {"switch", "--help"});
 }
 
 TEST_F(Screens, Version_is_one_line) {

@@ -1,0 +1,15 @@
+# Writes to TO what the files that FROM includes define, in their order, without qualifiers.mof and
+# cim_core.mof: an object manager has these from its own copy of the CIM schema.
+get_filename_component(folder ${FROM} DIRECTORY)
+file(STRINGS ${FROM} includes REGEX "^#pragma include")
+set(text "// The classes of the agent, for an object manager that has the CIM schema.\n")
+foreach(line ${includes})
+  string(REGEX REPLACE ".*\"(.*)\".*" "\\1" name "${line}")
+  if(name STREQUAL "qualifiers.mof" OR name STREQUAL "cim_core.mof")
+    continue()
+  endif()
+  file(READ ${folder}/${name} part)
+  string(REGEX REPLACE "#pragma include[^\n]*\n" "" part "${part}")
+  string(APPEND text "\n${part}")
+endforeach()
+file(WRITE ${TO} "${text}")
