@@ -35,7 +35,7 @@ extern "C" {
 int32_t __wrap_if_db_str2ifindex(const char* name, uint32_t* if_index) {
   HeapLedger::Pause pause;
   platform_interface().names_asked.emplace_back(name);
-  if (platform_interface().name != name) return -1;
+  if (std::strcmp(platform_interface().name, name) != 0) return -1;
   *if_index = platform_interface().index;
   return 0;
 }
@@ -43,7 +43,7 @@ int32_t __wrap_if_db_str2ifindex(const char* name, uint32_t* if_index) {
 int32_t __wrap_sprintf_if_index(char* dst, uint32_t if_index) {
   HeapLedger::Pause pause;
   platform_interface().indexes_asked.push_back(if_index);
-  std::strcpy(dst, platform_interface().shown_name.c_str());
+  std::strcpy(dst, platform_interface().shown_name);
   return 0;
 }
 

@@ -10,13 +10,13 @@
 namespace zoning_test {
 
 struct Interface {
-  std::string name = "fc1/5";  // only this name is known
+  const char* name = "fc1/5";  // only this name is known
   uint32_t index = 0x12345678;
   uint8_t type = 1;
   uint8_t slot = 1;
   uint8_t port = 4;
   bool type_known = true;
-  std::string shown_name = "fc1/5";
+  const char* shown_name = "fc1/5";
 
   std::vector<std::string> names_asked;
   std::vector<uint32_t> indexes_asked;                // of any function that takes an index

@@ -3,7 +3,6 @@
 #include <cim_utils/zoning_identifiers.h>
 
 #include <optional>
-#include <vector>
 
 #include "tests/zoning/zoning_fixture.h"
 
@@ -21,17 +20,14 @@ struct Row {
   int32_t length;
 };
 
-const std::vector<Row>& rows() {
-  static const std::vector<Row> rows = {
-      {1, 2, 8},      {2, 4, 4},      {3, 3, 4},     {4, 5, 64},     {109, {}, 8},   {225, 101, 16},
-      {227, 102, 12}, {228, 12, 256}, {229, 7, 8},   {230, 12, 256}, {231, 6, 8},    {232, 8, 8},
-      {233, 11, 12},  {234, 9, 24},   {235, 13, -1}, {241, 101, 16}, {243, 102, 12},
-  };
-  return rows;
-}
+constexpr Row kRows[] = {
+    {1, 2, 8},      {2, 4, 4},      {3, 3, 4},     {4, 5, 64},     {109, {}, 8},   {225, 101, 16},
+    {227, 102, 12}, {228, 12, 256}, {229, 7, 8},   {230, 12, 256}, {231, 6, 8},    {232, 8, 8},
+    {233, 11, 12},  {234, 9, 24},   {235, 13, -1}, {241, 101, 16}, {243, 102, 12},
+};
 
 const Row* row_of(int zs_type) {
-  for (const Row& row : rows())
+  for (const Row& row : kRows)
     if (row.zs_type == zs_type) return &row;
   return nullptr;
 }
@@ -65,9 +61,9 @@ TEST_F(MemberTypes, EveryLengthIsThatOfTheTableAndAnyOtherMinusOne) {
 
 // By CIM type; what is not here is refused.
 std::optional<int> asked_for_by(int cim_type) {
-  static const std::vector<int> types = {1, 3, 2, 4, 231, 229, 232, 234, 109, 233, 230, 235};
+  constexpr int types[] = {1, 3, 2, 4, 231, 229, 232, 234, 109, 233, 230, 235};
   if (cim_type < 2 || cim_type > 13) return {};
-  return types[static_cast<size_t>(cim_type - 2)];
+  return types[cim_type - 2];
 }
 
 TEST_F(MemberTypes, TheCimTypes2To13AreReadAndAnyOtherRefused) {
