@@ -15,6 +15,7 @@
 #include "common/c_heap.h"
 #include "common/exchange.h"
 #include "common/list_builder.h"
+#include "common/seen_texts.h"
 #include "common/wire.h"
 
 namespace cim_utils {
@@ -76,24 +77,6 @@ wwn_ physical_switch_wwn(const wwn_& element) {
   wwn_cim_get_switch_unique_wwn_from_vsan_wwn(&switch_wwn, &element);
   return switch_wwn;
 }
-
-// A set of texts, for listing each once.
-class SeenTexts {
- public:
-  SeenTexts() : table_(cim_g_hash_table_new()) {}
-  SeenTexts(const SeenTexts&) = delete;
-  SeenTexts& operator=(const SeenTexts&) = delete;
-  ~SeenTexts() { cim_g_hash_table_destroy(table_, 0); }
-
-  // True for the first time; false later, and when the text cannot be remembered.
-  bool first_time(const char* text) {
-    if (g_hash_table_lookup(table_, text) != nullptr) return false;
-    return cim_g_hash_table_insert(table_, text, this) == 0;
-  }
-
- private:
-  GHashTable* table_;
-};
 
 }  // namespace
 }  // namespace cim_utils

@@ -4,6 +4,10 @@
 #define TESTS_SUPPORT_DOUBLE_ZONE_SERVER_H
 
 #include <cstdint>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "tests/support/script.h"
@@ -56,6 +60,48 @@ class MemberParse : public Line<MemberParse> {
 };
 MemberParse parse_member(const Bytes& entry);
 MemberParse parse_any_member();
+
+// A read as the double saw it. What its function does not take is 0.
+struct ZoneReadRequest {
+  std::string function;
+  uint32_t vsan = 0;
+  int32_t active = 0;
+  uint32_t id = 0;
+  int32_t parent_kind = 0;
+  uint32_t parent_id = 0;
+  uint32_t member_id = 0;
+};
+
+struct ZoneReadResponse {
+  int32_t result = 0;
+  int32_t count = 0;
+  std::optional<Bytes> reply;
+};
+
+// Answers every read while it exists, in place of script lines; other functions still need a
+// Script. Members are taken apart as they lie in the reply: the type in byte 20 of the entry, the
+// value behind its 24 bytes, the length in its first word. For counting and for sweeps.
+class ZoneReadResponder {
+ public:
+  explicit ZoneReadResponder(std::function<ZoneReadResponse(const ZoneReadRequest&)> answer);
+  // Expects that every reply was freed.
+  ~ZoneReadResponder();
+  ZoneReadResponder(const ZoneReadResponder&) = delete;
+  ZoneReadResponder& operator=(const ZoneReadResponder&) = delete;
+
+  size_t calls() const;
+  size_t calls(const char* function) const;
+
+  // For the double.
+  ZoneReadResponse respond(const ZoneReadRequest& request);
+  uint32_t owner() const { return owner_; }
+
+ private:
+  std::function<ZoneReadResponse(const ZoneReadRequest&)> answer_;
+  std::map<std::string, size_t> calls_;
+  uint32_t owner_;
+  ZoneReadResponder* outer_;
+};
 
 // A change. Answer: returns(result).
 class ZoneChange : public Line<ZoneChange> {
