@@ -135,8 +135,9 @@ CIM_UTILS_EXPORT int32_t zs_cim_get_all_non_active_zone_members(int32_t q, uint3
 
 /* ---- Children -----------------------------------------------------------------------------
  * Chains, in the order of the children's ids. A child that cannot be read is left out. Failure
- * (-1): the parent cannot be read. A parent without children is a success with a null chain, but
- * for a zone set without zones, which is a failure, deliberately. */
+ * (-1): the parent cannot be read. An instance id that cannot be read reads what was understood of
+ * it, without an object id the first of the VSAN. A parent without children is a success with a
+ * null chain, but for a zone set without zones, which is a failure, deliberately. */
 
 CIM_UTILS_EXPORT int32_t zs_cim_get_zone_set_zones_by_instance_id(int32_t q,
                                                                   const char* instance_id,
@@ -152,8 +153,8 @@ CIM_UTILS_EXPORT int32_t zs_cim_get_zone_alias_zone_members_by_instance_id(
 
 /* ---- Parents ------------------------------------------------------------------------------ */
 
-/* The zone sets that hold a zone, and the zones that hold an alias, as chains. Failure (-1): the
- * VSAN cannot be read. */
+/* The zone sets that hold a zone, and the zones that hold an alias, as chains. Failure (-1): an
+ * instance id that cannot be read, the VSAN cannot be read, memory. */
 CIM_UTILS_EXPORT int32_t zs_cim_get_zone_zone_set_parents_by_instance_id(
     int32_t q, const char* instance_id, zs_cim_zone_set_** zone_sets);
 CIM_UTILS_EXPORT int32_t zs_cim_get_zone_alias_zone_parents_by_instance_id(int32_t q,

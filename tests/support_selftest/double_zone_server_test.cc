@@ -218,5 +218,53 @@ TEST_F(ZoneServerDouble, PoliciesAreABlockToBeFreed) {
   EXPECT_EQ(reply_, nullptr);
 }
 
+TEST_F(ZoneServerDouble, AResponderAnswersEveryReadAndCountsByFunction) {
+  HeapLedger ledger;
+  ZoneReadResponder responder([](const ZoneReadRequest& request) {
+    EXPECT_EQ(request.vsan, 10u);
+    EXPECT_EQ(request.active, 1);
+    if (request.function == "zs_cmi_get_all_zones_in_vsan") return ZoneReadResponse{7, 0, {}};
+    EXPECT_EQ(request.parent_kind, 1);
+    EXPECT_EQ(request.parent_id, 3u);
+    EXPECT_EQ(request.member_id, 4u);
+    return ZoneReadResponse{0, 5, Record(40).host32(0, 16).byte(20, 225)};
+  });
+  EXPECT_EQ(zs_cmi_get_all_zones_in_vsan(kQueue, 10, context_, 0, 1, &count_, &reply_), 7);
+  EXPECT_EQ(count_, 0);
+  EXPECT_EQ(reply_, nullptr);
+  EXPECT_EQ(zs_cmi_get_member(kQueue, 1, 10, context_, 0, 1, 1, 3, 4, &count_, &reply_, 0), 0);
+  EXPECT_EQ(count_, 5);
+  ASSERT_NE(reply_, nullptr);
+  uint8_t type = 0;
+  int32_t length = 0;
+  const void* value = nullptr;
+  const void* lun = nullptr;
+  EXPECT_EQ(zs_api_parse_member(reply_, &type, &length, &value, &lun), 0);
+  EXPECT_EQ(type, 225);
+  EXPECT_EQ(length, 16);
+  EXPECT_EQ(value, static_cast<uint8_t*>(reply_) + 24);
+  EXPECT_EQ(lun, static_cast<uint8_t*>(reply_) + 32);
+  free(reply_);
+  EXPECT_EQ(responder.calls(), 2u);
+  EXPECT_EQ(responder.calls("zs_cmi_get_member"), 1u);
+  EXPECT_EQ(responder.calls("zs_cmi_get_zone"), 0u);
+}
+
+TEST_F(ZoneServerDouble, AResponderExpectsItsRepliesToBeFreed) {
+  static void* reply;
+  reply = nullptr;
+  EXPECT_NONFATAL_FAILURE(
+      {
+        ZoneReadResponder responder([](const ZoneReadRequest&) {
+          return ZoneReadResponse{0, 1, hex("01")};
+        });
+        uint8_t context[132] = {};
+        int32_t count = 1;
+        zs_cmi_get_zone(kQueue, 1, 10, context, 0, 0, 4, &count, &reply);
+      },
+      "not freed: 1 bytes");
+  free(reply);
+}
+
 }  // namespace
 }  // namespace test_support

@@ -9,6 +9,7 @@
 #include "tests/support/double_zone_server.h"
 #include "tests/zoning_queries/chains.h"
 #include "tests/zoning_queries/entries.h"
+#include "zoning/chain.h"
 
 using namespace test_support;
 using namespace zoning_queries_test;
@@ -204,6 +205,18 @@ TEST(ZoningGrowth, ParentsOfAMemberAreInTheListOnceEachFromTheLastToTheFirst) {
   }
   EXPECT_EQ(id, 0u);
   cim_g_slist_destroy(zones, nullptr);
+}
+
+TEST(ZoningGrowth, AChainOfAMillionIsBuiltWithoutWalkingIt) {
+  struct Link {
+    Link* next;
+  };
+  constexpr int kLinks = 1000000;
+  Chain<Link> links;
+  cim_utils::ChainBuilder<Link> chain(links.out());
+  for (int i = 0; i < kLinks; ++i)
+    chain.append(static_cast<Link*>(malloc(sizeof(Link))));
+  EXPECT_EQ(links.length(), kLinks);
 }
 
 }  // namespace
