@@ -3,21 +3,21 @@
 //   byte 0   number of bits, 32-bit big-endian
 //   byte 4   the bits: bit b is bit b % 8 (0 = least significant) of byte 4 + b / 8
 //
-// The bit set of a record takes 260 bytes. A larger announced number counts as 2048, so that a
-// damaged record is never read past that.
+// The bit set of a record takes 260 bytes, that of a zone set's zones 1260. A number that fits
+// neither counts as 2048, so that a damaged record is never read past the smaller of the two.
 #include <switch_platform/bitset.h>
 
-#include <algorithm>
 #include <cstdint>
 
 namespace {
 
-constexpr uint32_t kLargestNumberOfBits = 2048;
+constexpr uint32_t kUsualNumberOfBits = 2048;
+constexpr uint32_t kLargestNumberOfBits = 10048;
 
 int32_t number_of_bits(const uint8_t* bytes) {
   const uint32_t announced =
       static_cast<uint32_t>(bytes[0]) << 24 | bytes[1] << 16 | bytes[2] << 8 | bytes[3];
-  return static_cast<int32_t>(std::min(announced, kLargestNumberOfBits));
+  return static_cast<int32_t>(announced <= kLargestNumberOfBits ? announced : kUsualNumberOfBits);
 }
 
 bool is_set(const uint8_t* bytes, int32_t bit) {
