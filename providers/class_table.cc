@@ -1,145 +1,26 @@
 #include "providers/class_table.h"
 
-#include <cim_utils/cmpi_switch.h>
+#include <vector>
 
-#include "providers/computer_system.h"
-#include "providers/fabric.h"
-#include "providers/switch_settings.h"
-#include "providers/vsan.h"
-
-// To add a class: write its functions in a source of its own, describe it here with a RecordClass,
-// and name it in kClasses. What a description may hold stands in class.h.
+// To add a class: write its functions in a source of its own, describe it with a RecordClass in the
+// table of its area (AREA_class_table.cc), and name it in kClasses there. What a description may
+// hold stands in class.h.
 namespace vexor::providers {
 namespace {
 
-constexpr KeyNames kSystemKeys = {"Name", "CreationClassName"};
-
-constexpr RecordClass<Fabric> kAdminDomain{{
-    .name = "VEXOR_AdminDomain",
-    .keys = kSystemKeys,
-    .list = the_fabric,
-    .reference = [](const Target& to, const Fabric&) { return fabric_reference(to); },
-    .instance = [](const Target& to, const Fabric&) { return fabric_instance(to); },
-}};
-
-constexpr RecordClass<VsanRecord>::Method kVsanMethods[] = {
-    {"RequestStateChange", request_vsan_state},
-};
-
-constexpr RecordClass<VsanRecord> kVsan{{
-    .name = "VEXOR_Vsan",
-    .keys = kSystemKeys,
-    .list = all_vsans,
-    .reference = vsan_reference,
-    .instance = vsan_instance,
-    .find = vsans_named,
-    .methods = kVsanMethods,
-}};
-
-constexpr RecordClass<VsanRecord> kConnectivityCollection{{
-    .name = "VEXOR_ConnectivityCollection",
-    .keys = {"InstanceID"},
-    .list = all_vsans,
-    .reference =
-        [](const Target& to, const VsanRecord& vsan) {
-          return connectivity_collection_fill_reference(
-              to.class_name, to.name_space, static_cast<int>(vsan.entry.vsan_index), to.broker);
-        },
-    .instance =
-        [](const Target& to, const VsanRecord& vsan) {
-          return connectivity_collection_build_instance(
-              to.class_name, to.name_space, static_cast<int>(vsan.entry.vsan_index), to.broker);
-        },
-}};
-
-constexpr RecordClass<VsanRecord> kContainedDomain{{
-    .name = "VEXOR_ContainedDomain",
-    .keys = {"GroupComponent", "PartComponent"},
-    .list = all_vsans,
-    .reference = contained_domain_reference,
-    .instance = contained_domain_instance,
-    .find = contained_domains_named,
-    .ends = {{
-        {{.role = "GroupComponent", .class_name = "VEXOR_AdminDomain", .always_the_same = true},
-         [](const Target& to, const VsanRecord&) { return fabric_reference(to); },
-         [](const Target& to, const VsanRecord&) { return fabric_instance(to); }},
-        {{.role = "PartComponent", .class_name = "VEXOR_Vsan"}, vsan_reference, vsan_instance},
-    }},
-    .related = contained_domains_of,
-}};
-
-constexpr RecordClass<PhysicalSwitch> kPhysicalComputerSystem{{
-    .name = "VEXOR_PhysicalComputerSystem",
-    .keys = kSystemKeys,
-    .list = physical_switches,
-    .reference = physical_switch_reference,
-    .instance = physical_switch_instance,
-    .find = physical_switches_named,
-    .modify = modify_physical_switch,
-    .changeable = kChangeableOfSwitch,
-}};
-
-constexpr RecordClass<fcs_cim_ie_> kLogicalComputerSystem{{
-    .name = "VEXOR_LogicalComputerSystem",
-    .keys = kSystemKeys,
-    .list = logical_switches,
-    .reference = logical_switch_reference,
-    .instance = logical_switch_instance,
-    .find = logical_switches_named,
-}};
-
-constexpr RecordClass<Component> kComponent{{
-    .name = "VEXOR_Component",
-    .keys = {"GroupComponent", "PartComponent"},
-    .list = components,
-    .reference = component_reference,
-    .instance = component_instance,
-    .find = components_named,
-    .ends = {{
-        {{.role = "GroupComponent", .class_name = "VEXOR_Vsan"},
-         [](const Target& to, const Component& part) { return vsan_reference(to, *part.vsan); },
-         [](const Target& to, const Component& part) { return vsan_instance(to, *part.vsan); }},
-        {{.role = "PartComponent", .class_name = "VEXOR_ComputerSystem"},
-         component_part_reference,
-         component_part_instance},
-    }},
-    .related = components_of,
-}};
-
-constexpr RecordClass<OwnSwitch> kFCSwitchCapabilities{{
-    .name = "VEXOR_FCSwitchCapabilities",
-    .keys = {"InstanceID"},
-    .list = the_own_switch,
-    .reference = switch_capabilities_reference,
-    .instance = switch_capabilities_instance,
-}};
-
-constexpr RecordClass<OwnSwitch> kFCSwitchSettings{{
-    .name = "VEXOR_FCSwitchSettings",
-    .keys = {"InstanceID"},
-    .list = the_own_switch,
-    .reference = switch_settings_reference,
-    .instance = switch_settings_instance,
-    .modify = modify_switch_settings,
-    .changeable = kChangeableOfSwitchSettings,
-}};
-
-constexpr const Class* kClasses[] = {
-    &kAdminDomain,
-    &kComponent,
-    &kConnectivityCollection,
-    &kContainedDomain,
-    &kFCSwitchCapabilities,
-    &kFCSwitchSettings,
-    &kLogicalComputerSystem,
-    &kPhysicalComputerSystem,
-    &kVsan,
-};
+std::vector<const Class*> joined(std::initializer_list<ClassTable> tables) {
+  std::vector<const Class*> all;
+  for (const ClassTable table : tables)
+    all.insert(all.end(), table.begin(), table.end());
+  return all;
+}
 
 }  // namespace
 
 ClassTable class_table() {
-  return kClasses;
+  static const std::vector<const Class*> all =
+      joined({switch_classes(), port_classes(), zoning_classes(), hardware_classes()});
+  return all;
 }
 
 }  // namespace vexor::providers
