@@ -22,6 +22,7 @@
 #include <Pegasus/Provider/CIMOMHandle.h>
 #include <cim_utils/export.h>
 #include <cim_utils/fabric_configuration.h>
+#include <cim_utils/zoning_records.h>
 #include <switch_platform/records_domain_manager.h>
 #include <switch_platform/records_fspf.h>
 #include <switch_platform/records_name_server.h>
@@ -332,6 +333,223 @@ class CIM_UTILS_EXPORT ProviderUtil {
   static Pegasus::CIMObject port_stat_build_object(const char* className,
                                                    const Pegasus::String& nameSpace,
                                                    pm_port_info_* port);
+  // Zoning objects, services and capabilities, and what ties them together. Unlike the other
+  // members, these take the namespace first and the class name second, deliberately.
+
+  // A zone set. Properties "ElementName" (its name) and "Active".
+  static Pegasus::CIMObjectPath zone_set_fill_reference(const Pegasus::String& nameSpace,
+                                                        const Pegasus::String& className,
+                                                        const zs_cim_zone_set_* zoneSet);
+  static Pegasus::CIMInstance zone_set_build_instance(const Pegasus::String& nameSpace,
+                                                      const Pegasus::String& className,
+                                                      const zs_cim_zone_set_* zoneSet);
+  static Pegasus::CIMObject zone_set_build_object(const Pegasus::String& nameSpace,
+                                                  const Pegasus::String& className,
+                                                  const zs_cim_zone_set_* zoneSet);
+
+  // A zone. Properties "ElementName", "Active", "ProtocolType", "ReadOnly", "ZoneType".
+  static Pegasus::CIMObjectPath zone_fill_reference(const Pegasus::String& nameSpace,
+                                                    const Pegasus::String& className,
+                                                    const zs_cim_zone_* zone);
+  static Pegasus::CIMInstance zone_build_instance(const Pegasus::String& nameSpace,
+                                                  const Pegasus::String& className,
+                                                  const zs_cim_zone_* zone);
+  static Pegasus::CIMObject zone_build_object(const Pegasus::String& nameSpace,
+                                              const Pegasus::String& className,
+                                              const zs_cim_zone_* zone);
+
+  // A zone alias. Properties "ElementName" and "CollectionAlias" (its name) and "Active".
+  static Pegasus::CIMObjectPath zone_alias_fill_reference(const Pegasus::String& nameSpace,
+                                                          const Pegasus::String& className,
+                                                          const zs_cim_alias_* alias);
+  static Pegasus::CIMInstance zone_alias_build_instance(const Pegasus::String& nameSpace,
+                                                        const Pegasus::String& className,
+                                                        const zs_cim_alias_* alias);
+  static Pegasus::CIMObject zone_alias_build_object(const Pegasus::String& nameSpace,
+                                                    const Pegasus::String& className,
+                                                    const zs_cim_alias_* alias);
+
+  // A member of a zone or an alias. Properties "ConnectivityMemberID" (its display text) and
+  // "ConnectivityMemberType".
+  static Pegasus::CIMObjectPath zone_member_fill_reference(const Pegasus::String& nameSpace,
+                                                           const Pegasus::String& className,
+                                                           const zs_cim_zone_member_* member);
+  static Pegasus::CIMInstance zone_member_build_instance(const Pegasus::String& nameSpace,
+                                                         const Pegasus::String& className,
+                                                         const zs_cim_zone_member_* member);
+  static Pegasus::CIMObject zone_member_build_object(const Pegasus::String& nameSpace,
+                                                     const Pegasus::String& className,
+                                                     const zs_cim_zone_member_* member);
+
+  // The zone service of a VSAN. Keys "Name" (the VSAN number), "SystemName" (the VSAN's key text,
+  // for which the VSAN manager and the domain manager are asked; the number when they do not
+  // answer), "SystemCreationClassName", "CreationClassName". The instance asks the zone server for
+  // the default policy, property "defaultZoningState".
+  static Pegasus::CIMObjectPath zone_service_fill_reference(const Pegasus::String& nameSpace,
+                                                            const Pegasus::String& className,
+                                                            int vsan);
+  static Pegasus::CIMInstance zone_service_build_instance(const Pegasus::String& nameSpace,
+                                                          const Pegasus::String& className,
+                                                          int vsan);
+  static Pegasus::CIMObject zone_service_build_object(const Pegasus::String& nameSpace,
+                                                      const Pegasus::String& className, int vsan);
+
+  // What zone servers can do: constants. Asks no service.
+  static Pegasus::CIMObjectPath zone_cap_fill_reference(const Pegasus::String& nameSpace,
+                                                        const Pegasus::String& className,
+                                                        const char* instanceId);
+  static Pegasus::CIMInstance zone_cap_build_instance(const Pegasus::String& nameSpace,
+                                                      const Pegasus::String& className,
+                                                      const char* instanceId);
+  static Pegasus::CIMObject zone_cap_build_object(const Pegasus::String& nameSpace,
+                                                  const Pegasus::String& className,
+                                                  const char* instanceId);
+
+  // A zone in a zone set, by their instance ids: "Collection", "Member".
+  static Pegasus::CIMObjectPath zmoc_fill_reference_zoneSetZone(const Pegasus::String& nameSpace,
+                                                                const Pegasus::String& className,
+                                                                const char* zoneSetId,
+                                                                const char* zoneId);
+  static Pegasus::CIMInstance zmoc_build_instance_zoneSetZone(const Pegasus::String& nameSpace,
+                                                              const Pegasus::String& className,
+                                                              const char* zoneSetId,
+                                                              const char* zoneId);
+  static Pegasus::CIMObject zmoc_build_object_zoneSetZone(const Pegasus::String& nameSpace,
+                                                          const Pegasus::String& className,
+                                                          const char* zoneSetId,
+                                                          const char* zoneId);
+
+  // An alias in a zone: "Collection", "Member".
+  static Pegasus::CIMObjectPath zmoc_fill_reference(const Pegasus::String& nameSpace,
+                                                    const Pegasus::String& className,
+                                                    const zs_cim_zone_* zone,
+                                                    const zs_cim_alias_* alias);
+  static Pegasus::CIMInstance zmoc_build_instance(const Pegasus::String& nameSpace,
+                                                  const Pegasus::String& className,
+                                                  const zs_cim_zone_* zone,
+                                                  const zs_cim_alias_* alias);
+  static Pegasus::CIMObject zmoc_build_object(const Pegasus::String& nameSpace,
+                                              const Pegasus::String& className,
+                                              const zs_cim_zone_* zone, const zs_cim_alias_* alias);
+
+  // A member of a zone: "ManagedElement", "SettingData".
+  static Pegasus::CIMObjectPath esd_fill_reference_zoneZoneMember(
+      const Pegasus::String& nameSpace, const Pegasus::String& className, const zs_cim_zone_* zone,
+      const zs_cim_zone_member_* member);
+  static Pegasus::CIMInstance esd_build_instance_zoneZoneMember(const Pegasus::String& nameSpace,
+                                                                const Pegasus::String& className,
+                                                                const zs_cim_zone_* zone,
+                                                                const zs_cim_zone_member_* member);
+  static Pegasus::CIMObject esd_build_object_zoneZoneMember(const Pegasus::String& nameSpace,
+                                                            const Pegasus::String& className,
+                                                            const zs_cim_zone_* zone,
+                                                            const zs_cim_zone_member_* member);
+
+  // A member of an alias: "ManagedElement", "SettingData".
+  static Pegasus::CIMObjectPath esd_fill_reference_zoneAliasZoneMember(
+      const Pegasus::String& nameSpace, const Pegasus::String& className,
+      const zs_cim_alias_* alias, const zs_cim_zone_member_* member);
+  static Pegasus::CIMInstance esd_build_instance_zoneAliasZoneMember(
+      const Pegasus::String& nameSpace, const Pegasus::String& className,
+      const zs_cim_alias_* alias, const zs_cim_zone_member_* member);
+  static Pegasus::CIMObject esd_build_object_zoneAliasZoneMember(const Pegasus::String& nameSpace,
+                                                                 const Pegasus::String& className,
+                                                                 const zs_cim_alias_* alias,
+                                                                 const zs_cim_zone_member_* member);
+
+  // The connectivity collection that a VSAN hosts: "Antecedent" the VSAN, "Dependent" the
+  // collection of that number.
+  static Pegasus::CIMObjectPath hosted_collection_fill_reference(const Pegasus::String& nameSpace,
+                                                                 const Pegasus::String& className,
+                                                                 vsanNewEntry_t* vsan,
+                                                                 mts_dm_sw_conf_* swConf,
+                                                                 int number);
+  static Pegasus::CIMInstance hosted_collection_build_instance(const Pegasus::String& nameSpace,
+                                                               const Pegasus::String& className,
+                                                               vsanNewEntry_t* vsan,
+                                                               mts_dm_sw_conf_* swConf, int number);
+  static Pegasus::CIMObject hosted_collection_build_object(const Pegasus::String& nameSpace,
+                                                           const Pegasus::String& className,
+                                                           vsanNewEntry_t* vsan,
+                                                           mts_dm_sw_conf_* swConf, int number);
+
+  // A zone set that a VSAN hosts: "Antecedent", "Dependent".
+  static Pegasus::CIMObjectPath hosted_collection_fill_reference_zset(
+      const Pegasus::String& nameSpace, const Pegasus::String& className, vsanNewEntry_t* vsan,
+      mts_dm_sw_conf_* swConf, const zs_cim_zone_set_* zoneSet);
+  static Pegasus::CIMInstance hosted_collection_build_instance_zset(
+      const Pegasus::String& nameSpace, const Pegasus::String& className, vsanNewEntry_t* vsan,
+      mts_dm_sw_conf_* swConf, const zs_cim_zone_set_* zoneSet);
+  static Pegasus::CIMObject hosted_collection_build_object_zset(const Pegasus::String& nameSpace,
+                                                                const Pegasus::String& className,
+                                                                vsanNewEntry_t* vsan,
+                                                                mts_dm_sw_conf_* swConf,
+                                                                const zs_cim_zone_set_* zoneSet);
+
+  // A zone that a VSAN hosts: "Antecedent", "Dependent".
+  static Pegasus::CIMObjectPath hosted_collection_fill_reference_zone(
+      const Pegasus::String& nameSpace, const Pegasus::String& className, vsanNewEntry_t* vsan,
+      mts_dm_sw_conf_* swConf, const zs_cim_zone_* zone);
+  static Pegasus::CIMInstance hosted_collection_build_instance_zone(
+      const Pegasus::String& nameSpace, const Pegasus::String& className, vsanNewEntry_t* vsan,
+      mts_dm_sw_conf_* swConf, const zs_cim_zone_* zone);
+  static Pegasus::CIMObject hosted_collection_build_object_zone(const Pegasus::String& nameSpace,
+                                                                const Pegasus::String& className,
+                                                                vsanNewEntry_t* vsan,
+                                                                mts_dm_sw_conf_* swConf,
+                                                                const zs_cim_zone_* zone);
+
+  // An alias that a VSAN hosts: "Antecedent", "Dependent".
+  static Pegasus::CIMObjectPath hosted_collection_fill_reference_zalias(
+      const Pegasus::String& nameSpace, const Pegasus::String& className, vsanNewEntry_t* vsan,
+      mts_dm_sw_conf_* swConf, const zs_cim_alias_* alias);
+  static Pegasus::CIMInstance hosted_collection_build_instance_zalias(
+      const Pegasus::String& nameSpace, const Pegasus::String& className, vsanNewEntry_t* vsan,
+      mts_dm_sw_conf_* swConf, const zs_cim_alias_* alias);
+  static Pegasus::CIMObject hosted_collection_build_object_zalias(const Pegasus::String& nameSpace,
+                                                                  const Pegasus::String& className,
+                                                                  vsanNewEntry_t* vsan,
+                                                                  mts_dm_sw_conf_* swConf,
+                                                                  const zs_cim_alias_* alias);
+
+  // A member of a collection, by two references: "Collection", "Member".
+  static Pegasus::CIMObjectPath zmoc_fill_reference_MemberCollection(
+      const Pegasus::String& nameSpace, const Pegasus::String& className,
+      const Pegasus::CIMObjectPath& collectionRef, const Pegasus::CIMObjectPath& memberRef);
+  static Pegasus::CIMInstance zmoc_build_instance_MemberCollection(
+      const Pegasus::String& nameSpace, const Pegasus::String& className,
+      const Pegasus::CIMObjectPath& collectionRef, const Pegasus::CIMObjectPath& memberRef);
+  static Pegasus::CIMObject zmoc_build_object_MemberCollection(
+      const Pegasus::String& nameSpace, const Pegasus::String& className,
+      const Pegasus::CIMObjectPath& collectionRef, const Pegasus::CIMObjectPath& memberRef);
+
+  // A collection and its host, by two references: "Antecedent", "Dependent".
+  static Pegasus::CIMObjectPath zone_hosted_collection_fill_reference(
+      const Pegasus::String& nameSpace, const Pegasus::String& className,
+      const Pegasus::CIMObjectPath& hostRef, const Pegasus::CIMObjectPath& collectionRef);
+  static Pegasus::CIMInstance zhc_build_instance(const Pegasus::String& nameSpace,
+                                                 const Pegasus::String& className,
+                                                 const Pegasus::CIMObjectPath& hostRef,
+                                                 const Pegasus::CIMObjectPath& collectionRef);
+  static Pegasus::CIMObject zhc_build_object(const Pegasus::String& nameSpace,
+                                             const Pegasus::String& className,
+                                             const Pegasus::CIMObjectPath& hostRef,
+                                             const Pegasus::CIMObjectPath& collectionRef);
+
+  // The zone service that a VSAN hosts. Class name first, unlike the other zoning members,
+  // deliberately.
+  static Pegasus::CIMObjectPath hosted_service_fill_reference(const Pegasus::String& className,
+                                                              const Pegasus::String& nameSpace,
+                                                              vsanNewEntry_t* vsan,
+                                                              mts_dm_sw_conf_* swConf);
+  static Pegasus::CIMInstance hosted_service_build_instance(const Pegasus::String& className,
+                                                            const Pegasus::String& nameSpace,
+                                                            vsanNewEntry_t* vsan,
+                                                            mts_dm_sw_conf_* swConf);
+  static Pegasus::CIMObject hosted_service_build_object(const Pegasus::String& className,
+                                                        const Pegasus::String& nameSpace,
+                                                        vsanNewEntry_t* vsan,
+                                                        mts_dm_sw_conf_* swConf);
 };
 
 // Assigns to `property` a new one with the given name and an array whose only element is `value`,
