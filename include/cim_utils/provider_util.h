@@ -26,6 +26,7 @@
 #include <switch_platform/records_domain_manager.h>
 #include <switch_platform/records_fspf.h>
 #include <switch_platform/records_name_server.h>
+#include <switch_platform/records_platform_manager.h>
 #include <switch_platform/records_port_manager.h>
 #include <switch_platform/records_vsan.h>
 
@@ -550,6 +551,70 @@ class CIM_UTILS_EXPORT ProviderUtil {
                                                         const Pegasus::String& nameSpace,
                                                         vsanNewEntry_t* vsan,
                                                         mts_dm_sw_conf_* swConf);
+  // The product. The reference takes the namespace first, deliberately.
+  static Pegasus::CIMObjectPath product_fill_reference(const Pegasus::String& nameSpace,
+                                                       const char* className);
+  static Pegasus::CIMInstance product_build_instance(const char* className,
+                                                     const Pegasus::String& nameSpace);
+  static Pegasus::CIMObject product_build_object(const char* className,
+                                                 const Pegasus::String& nameSpace);
+
+  // The chassis. The reference takes the namespace first, deliberately. The instance asks the
+  // platform manager for the serial PROM.
+  static Pegasus::CIMObjectPath physical_package_fill_reference(const Pegasus::String& nameSpace,
+                                                                const char* className);
+  static Pegasus::CIMInstance physical_package_build_instance(const char* className,
+                                                              const Pegasus::String& nameSpace);
+  static Pegasus::CIMObject physical_package_build_object(const char* className,
+                                                          const Pegasus::String& nameSpace);
+
+  // The physical side of an interface.
+  static Pegasus::CIMObjectPath physical_element_fill_reference(const char* className,
+                                                                const Pegasus::String& nameSpace,
+                                                                pm_port_info_* info);
+  static Pegasus::CIMInstance physical_element_build_instance(const char* className,
+                                                              const Pegasus::String& nameSpace,
+                                                              pm_port_info_* info);
+  static Pegasus::CIMObject physical_element_build_object(const char* className,
+                                                          const Pegasus::String& nameSpace,
+                                                          pm_port_info_* info);
+
+  // A line card or a supervisor. Key "CreationClassName" of the reference is VEXOR_LogicalModule,
+  // whatever class is given, deliberately.
+  static Pegasus::CIMObjectPath logical_module_fill_reference(const Pegasus::String& className,
+                                                              const Pegasus::String& nameSpace,
+                                                              _vefcModuleEntry* module);
+  static Pegasus::CIMInstance logical_module_build_instance(const Pegasus::String& className,
+                                                            const Pegasus::String& nameSpace,
+                                                            _vefcModuleEntry* module,
+                                                            _entPhysicalEntry* entity);
+  static Pegasus::CIMObject logical_module_build_object(const Pegasus::String& className,
+                                                        const Pegasus::String& nameSpace,
+                                                        _vefcModuleEntry* module,
+                                                        _entPhysicalEntry* entity);
+
+  // The chassis of the own switch. The instance is a VEXOR_ComputerSystemPackage, whatever class is
+  // given, deliberately; its path keeps the given class.
+  static Pegasus::CIMObjectPath switch_package_fill_reference(char* className,
+                                                              const Pegasus::String& nameSpace);
+  static Pegasus::CIMInstance switch_package_build_instance(char* className,
+                                                            const Pegasus::String& nameSpace);
+  static Pegasus::CIMObject switch_package_build_object(char* className,
+                                                        const Pegasus::String& nameSpace);
+
+  // What a logical object is made of: "Antecedent" the physical one, "Dependent" the logical one.
+  static Pegasus::CIMObjectPath realize_fill_reference(const char* className,
+                                                       const Pegasus::String& nameSpace,
+                                                       Pegasus::CIMObjectPath physicalRef,
+                                                       Pegasus::CIMObjectPath logicalRef);
+  static Pegasus::CIMInstance realize_build_instance(const char* className,
+                                                     const Pegasus::String& nameSpace,
+                                                     Pegasus::CIMObjectPath physicalRef,
+                                                     Pegasus::CIMObjectPath logicalRef);
+  static Pegasus::CIMObject realize_build_object(const char* className,
+                                                 const Pegasus::String& nameSpace,
+                                                 Pegasus::CIMObjectPath physicalRef,
+                                                 Pegasus::CIMObjectPath logicalRef);
 };
 
 // Assigns to `property` a new one with the given name and an array whose only element is `value`,
