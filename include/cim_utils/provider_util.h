@@ -615,6 +615,324 @@ class CIM_UTILS_EXPORT ProviderUtil {
                                                  const Pegasus::String& nameSpace,
                                                  Pegasus::CIMObjectPath physicalRef,
                                                  Pegasus::CIMObjectPath logicalRef);
+  // A port of the own switch. One that is an Ethernet port (a physical one, a channel of such ones,
+  // the management port, FCIP, iSCSI) is of class "VEXOR_EthernetPort", whatever className says.
+  // The instance asks as fcport_build_instance_pm of the CMPI face, the optics on that face's queue
+  // (mts_q), deliberately.
+  static Pegasus::CIMObjectPath fcport_fill_reference(const char* className,
+                                                      const Pegasus::String& nameSpace,
+                                                      pm_port_info_* port);
+  static Pegasus::CIMInstance fcport_build_instance(const char* className,
+                                                    const Pegasus::String& nameSpace,
+                                                    pm_port_info_* port);
+  static Pegasus::CIMObject fcport_build_object(const char* className,
+                                                const Pegasus::String& nameSpace,
+                                                pm_port_info_* port);
+
+  // The port at one end of a link between switches: at the end that advertised it for local not
+  // zero, else at the far end. wwn (8 bytes) is that of the switch at that end, which is named by
+  // itself for physical not zero, else by its part in the VSAN. index and flag are not used.
+  static Pegasus::CIMObjectPath fcport_fill_reference(int index, const char* className,
+                                                      const Pegasus::String& nameSpace,
+                                                      fspfLinkEntry* link, unsigned char* wwn,
+                                                      unsigned char physical, unsigned char flag,
+                                                      unsigned char local);
+  static Pegasus::CIMInstance fcport_build_instance(int index, const char* className,
+                                                    const Pegasus::String& nameSpace,
+                                                    fspfLinkEntry* link, unsigned char* wwn,
+                                                    unsigned char physical, unsigned char flag,
+                                                    unsigned char local);
+  static Pegasus::CIMObject fcport_build_object(int index, const char* className,
+                                                const Pegasus::String& nameSpace,
+                                                fspfLinkEntry* link, unsigned char* wwn,
+                                                unsigned char physical, unsigned char flag,
+                                                unsigned char local);
+
+  // The same by the WWN as a record.
+  static Pegasus::CIMObjectPath fcport_fill_reference(int index, const char* className,
+                                                      const Pegasus::String& nameSpace,
+                                                      fspfLinkEntry* link, wwn_* wwn,
+                                                      unsigned char physical, unsigned char flag,
+                                                      unsigned char local);
+  static Pegasus::CIMInstance fcport_build_instance(int index, const char* className,
+                                                    const Pegasus::String& nameSpace,
+                                                    fspfLinkEntry* link, wwn_* wwn,
+                                                    unsigned char physical, unsigned char flag,
+                                                    unsigned char local);
+  static Pegasus::CIMObject fcport_build_object(int index, const char* className,
+                                                const Pegasus::String& nameSpace,
+                                                fspfLinkEntry* link, wwn_* wwn,
+                                                unsigned char physical, unsigned char flag,
+                                                unsigned char local);
+
+  // The port at one end of an attachment: of the switch for fabric_side not zero, else of the
+  // device. Does not throw for a path that cannot be made: one line says so, and there is none.
+  static Pegasus::CIMObjectPath fcport_fill_reference(const char* className,
+                                                      const Pegasus::String& nameSpace,
+                                                      ns_api_register_req_* entry,
+                                                      unsigned char physical,
+                                                      unsigned char fabric_side);
+  static Pegasus::CIMInstance fcport_build_instance(const char* className,
+                                                    const Pegasus::String& nameSpace,
+                                                    ns_api_register_req_* entry,
+                                                    unsigned char physical,
+                                                    unsigned char fabric_side);
+  static Pegasus::CIMObject fcport_build_object(const char* className,
+                                                const Pegasus::String& nameSpace,
+                                                ns_api_register_req_* entry, unsigned char physical,
+                                                unsigned char fabric_side);
+
+  // The protocol endpoint at one end of a link; the domain manager is asked on `queue`.
+  static Pegasus::CIMObjectPath pe_fill_reference(const char* className,
+                                                  const Pegasus::String& nameSpace, int queue,
+                                                  fspfLinkEntry* link, unsigned char local);
+  static Pegasus::CIMInstance pe_build_instance(const char* className,
+                                                const Pegasus::String& nameSpace, int queue,
+                                                fspfLinkEntry* link, unsigned char local);
+  static Pegasus::CIMObject pe_build_object(const char* className, const Pegasus::String& nameSpace,
+                                            int queue, fspfLinkEntry* link, unsigned char local);
+
+  // The protocol endpoint of a port of the own switch.
+  static Pegasus::CIMObjectPath pe_fill_reference(const char* className,
+                                                  const Pegasus::String& nameSpace,
+                                                  pm_port_info_* port);
+  static Pegasus::CIMInstance pe_build_instance(const char* className,
+                                                const Pegasus::String& nameSpace,
+                                                pm_port_info_* port);
+  static Pegasus::CIMObject pe_build_object(const char* className, const Pegasus::String& nameSpace,
+                                            pm_port_info_* port);
+
+  // The protocol endpoint at one end of an attachment.
+  static Pegasus::CIMObjectPath pe_fill_reference(const char* className,
+                                                  const Pegasus::String& nameSpace,
+                                                  ns_api_register_req_* entry,
+                                                  unsigned char fabric_side);
+  static Pegasus::CIMInstance pe_build_instance(const char* className,
+                                                const Pegasus::String& nameSpace,
+                                                ns_api_register_req_* entry,
+                                                unsigned char fabric_side);
+  static Pegasus::CIMObject pe_build_object(const char* className, const Pegasus::String& nameSpace,
+                                            ns_api_register_req_* entry, unsigned char fabric_side);
+
+  // The ports of one node, known by a text or by the node's WWN.
+  static Pegasus::CIMObjectPath logical_port_group_fill_reference(const char* className,
+                                                                  const Pegasus::String& nameSpace,
+                                                                  const char* text);
+  static Pegasus::CIMInstance logical_port_group_build_instance(const char* className,
+                                                                const Pegasus::String& nameSpace,
+                                                                const char* text);
+  static Pegasus::CIMObject logical_port_group_build_object(const char* className,
+                                                            const Pegasus::String& nameSpace,
+                                                            const char* text);
+  static Pegasus::CIMObjectPath logical_port_group_fill_reference(const char* className,
+                                                                  const Pegasus::String& nameSpace,
+                                                                  wwn_* wwn);
+  static Pegasus::CIMInstance logical_port_group_build_instance(const char* className,
+                                                                const Pegasus::String& nameSpace,
+                                                                wwn_* wwn);
+  static Pegasus::CIMObject logical_port_group_build_object(const char* className,
+                                                            const Pegasus::String& nameSpace,
+                                                            wwn_* wwn);
+
+  // What a port has counted: by its interface index, and from its counters.
+  static Pegasus::CIMObjectPath fcport_stat_fill_reference(const char* className,
+                                                           const Pegasus::String& nameSpace,
+                                                           unsigned int if_index);
+  static Pegasus::CIMInstance fcport_stat_build_instance(const char* className,
+                                                         const Pegasus::String& nameSpace,
+                                                         fcIfAllCounters_t* counters);
+  static Pegasus::CIMObject fcport_stat_build_object(const char* className,
+                                                     const Pegasus::String& nameSpace,
+                                                     fcIfAllCounters_t* counters);
+
+  // Ties a port to its statistics, by two references: "ManagedElement", "Stats".
+  static Pegasus::CIMObjectPath port_stat_fill_reference(const char* className,
+                                                         const Pegasus::String& nameSpace,
+                                                         const Pegasus::CIMObjectPath& portRef,
+                                                         const Pegasus::CIMObjectPath& statRef);
+  static Pegasus::CIMInstance port_stat_build_instance(const char* className,
+                                                       const Pegasus::String& nameSpace,
+                                                       const Pegasus::CIMObjectPath& portRef,
+                                                       const Pegasus::CIMObjectPath& statRef);
+  static Pegasus::CIMObject port_stat_build_object(const char* className,
+                                                   const Pegasus::String& nameSpace,
+                                                   const Pegasus::CIMObjectPath& portRef,
+                                                   const Pegasus::CIMObjectPath& statRef);
+
+  // The same for a port of the own switch.
+  static Pegasus::CIMObjectPath port_stat_fill_reference(const char* className,
+                                                         const Pegasus::String& nameSpace,
+                                                         pm_port_info_* port);
+  static Pegasus::CIMInstance port_stat_build_instance(const char* className,
+                                                       const Pegasus::String& nameSpace,
+                                                       pm_port_info_* port);
+  static Pegasus::CIMObject port_stat_build_object(const char* className,
+                                                   const Pegasus::String& nameSpace,
+                                                   pm_port_info_* port);
+
+  // One thing known as two: "SystemElement", "SameElement".
+  // The instance is a VEXOR_LogicalIdentity whatever class is given, deliberately; the reference
+  // keeps the given class.
+  static Pegasus::CIMObjectPath logical_identity_fill_reference(
+      const char* className, const Pegasus::String& nameSpace,
+      const Pegasus::CIMObjectPath& systemRef, const Pegasus::CIMObjectPath& sameRef);
+  static Pegasus::CIMInstance logical_identity_build_instance(
+      const char* className, const Pegasus::String& nameSpace,
+      const Pegasus::CIMObjectPath& systemRef, const Pegasus::CIMObjectPath& sameRef);
+  static Pegasus::CIMObject logical_identity_build_object(const char* className,
+                                                          const Pegasus::String& nameSpace,
+                                                          const Pegasus::CIMObjectPath& systemRef,
+                                                          const Pegasus::CIMObjectPath& sameRef);
+
+  // What a system hosts: "Antecedent" the host, "Dependent" the hosted.
+  static Pegasus::CIMObjectPath hosted_dependency_fill_reference(
+      const char* className, const Pegasus::String& nameSpace,
+      const Pegasus::CIMObjectPath& hostRef, const Pegasus::CIMObjectPath& hostedRef);
+  static Pegasus::CIMInstance hosted_dependency_build_instance(
+      const char* className, const Pegasus::String& nameSpace,
+      const Pegasus::CIMObjectPath& hostRef, const Pegasus::CIMObjectPath& hostedRef);
+  static Pegasus::CIMObject hosted_dependency_build_object(const char* className,
+                                                           const Pegasus::String& nameSpace,
+                                                           const Pegasus::CIMObjectPath& hostRef,
+                                                           const Pegasus::CIMObjectPath& hostedRef);
+
+  // An access point that a system hosts: "Antecedent" the system, "Dependent" the access point.
+  static Pegasus::CIMObjectPath hosted_access_point_fill_reference(
+      const char* className, const Pegasus::String& nameSpace, Pegasus::CIMObjectPath systemRef,
+      Pegasus::CIMObjectPath accessPointRef);
+  static Pegasus::CIMInstance hosted_access_point_build_instance(
+      const char* className, const Pegasus::String& nameSpace, Pegasus::CIMObjectPath systemRef,
+      Pegasus::CIMObjectPath accessPointRef);
+  static Pegasus::CIMObject hosted_access_point_build_object(const char* className,
+                                                             const Pegasus::String& nameSpace,
+                                                             Pegasus::CIMObjectPath systemRef,
+                                                             Pegasus::CIMObjectPath accessPointRef);
+
+  // An access point that a device implements: "Antecedent" the device, "Dependent" the access
+  // point.
+  static Pegasus::CIMObjectPath device_sap_implementation_fill_reference(
+      const char* className, const Pegasus::String& nameSpace, Pegasus::CIMObjectPath deviceRef,
+      Pegasus::CIMObjectPath accessPointRef);
+  static Pegasus::CIMInstance device_sap_implementation_build_instance(
+      const char* className, const Pegasus::String& nameSpace, Pegasus::CIMObjectPath deviceRef,
+      Pegasus::CIMObjectPath accessPointRef);
+  static Pegasus::CIMObject device_sap_implementation_build_object(
+      const char* className, const Pegasus::String& nameSpace, Pegasus::CIMObjectPath deviceRef,
+      Pegasus::CIMObjectPath accessPointRef);
+
+  // Two connected endpoints: "Antecedent", "Dependent".
+  static Pegasus::CIMObjectPath active_connection_fill_reference(
+      const char* className, const Pegasus::String& nameSpace,
+      const Pegasus::CIMObjectPath& fromRef, const Pegasus::CIMObjectPath& toRef);
+  static Pegasus::CIMInstance active_connection_build_instance(
+      const char* className, const Pegasus::String& nameSpace,
+      const Pegasus::CIMObjectPath& fromRef, const Pegasus::CIMObjectPath& toRef);
+  static Pegasus::CIMObject active_connection_build_object(const char* className,
+                                                           const Pegasus::String& nameSpace,
+                                                           const Pegasus::CIMObjectPath& fromRef,
+                                                           const Pegasus::CIMObjectPath& toRef);
+
+  // A port of a node: "Collection" the port group, "Member" the port.
+  static Pegasus::CIMObjectPath fcnode_member_collection_fill_reference(
+      const char* className, const Pegasus::String& nameSpace, Pegasus::CIMObjectPath groupRef,
+      Pegasus::CIMObjectPath portRef);
+  static Pegasus::CIMInstance fcnode_member_collection_build_instance(
+      const char* className, const Pegasus::String& nameSpace, Pegasus::CIMObjectPath groupRef,
+      Pegasus::CIMObjectPath portRef);
+  static Pegasus::CIMObject fcnode_member_collection_build_object(const char* className,
+                                                                  const Pegasus::String& nameSpace,
+                                                                  Pegasus::CIMObjectPath groupRef,
+                                                                  Pegasus::CIMObjectPath portRef);
+
+  // A member of a connectivity collection: "Collection", "Member".
+  static Pegasus::CIMObjectPath connectivity_member_collection_fill_reference(
+      const char* className, const Pegasus::String& nameSpace, Pegasus::CIMObjectPath collectionRef,
+      Pegasus::CIMObjectPath memberRef);
+  static Pegasus::CIMInstance connectivity_member_collection_build_instance(
+      const char* className, const Pegasus::String& nameSpace, Pegasus::CIMObjectPath collectionRef,
+      Pegasus::CIMObjectPath memberRef);
+  static Pegasus::CIMObject connectivity_member_collection_build_object(
+      const char* className, const Pegasus::String& nameSpace, Pegasus::CIMObjectPath collectionRef,
+      Pegasus::CIMObjectPath memberRef);
+
+  // A device of a system: "GroupComponent", "PartComponent".
+  static Pegasus::CIMObjectPath system_device_fill_reference(const char* className,
+                                                             const Pegasus::String& nameSpace,
+                                                             Pegasus::CIMObjectPath systemRef,
+                                                             Pegasus::CIMObjectPath deviceRef);
+  static Pegasus::CIMInstance system_device_build_instance(const char* className,
+                                                           const Pegasus::String& nameSpace,
+                                                           Pegasus::CIMObjectPath systemRef,
+                                                           Pegasus::CIMObjectPath deviceRef);
+  static Pegasus::CIMObject system_device_build_object(const char* className,
+                                                       const Pegasus::String& nameSpace,
+                                                       Pegasus::CIMObjectPath systemRef,
+                                                       Pegasus::CIMObjectPath deviceRef);
+
+  // The connection of a link between switches: "Antecedent" its far end, "Dependent" the end that
+  // advertised it. interface is handed to pe_fill_reference_fspf.
+  static Pegasus::CIMObjectPath active_connection_fill_reference(const char* className,
+                                                                 const Pegasus::String& nameSpace,
+                                                                 fspfLinkEntry* link,
+                                                                 int interface);
+  static Pegasus::CIMInstance active_connection_build_instance(const char* className,
+                                                               const Pegasus::String& nameSpace,
+                                                               fspfLinkEntry* link, int interface);
+  static Pegasus::CIMObject active_connection_build_object(const char* className,
+                                                           const Pegasus::String& nameSpace,
+                                                           fspfLinkEntry* link, int interface);
+
+  // The connection of a device: "Antecedent" the fabric's side, "Dependent" the device's; the other
+  // way round than for links, deliberately.
+  static Pegasus::CIMObjectPath active_connection_fill_reference(const char* className,
+                                                                 const Pegasus::String& nameSpace,
+                                                                 ns_api_register_req_* entry);
+  static Pegasus::CIMInstance active_connection_build_instance(const char* className,
+                                                               const Pegasus::String& nameSpace,
+                                                               ns_api_register_req_* entry);
+  static Pegasus::CIMObject active_connection_build_object(const char* className,
+                                                           const Pegasus::String& nameSpace,
+                                                           ns_api_register_req_* entry);
+
+  // The port at the end of a link that advertised it, on the switch of a domain. A switch of the
+  // maker is seen as its part in the VSAN, another as a device. index is handed to the port's
+  // builder.
+  static Pegasus::CIMObjectPath system_device_fill_reference(int index, const char* className,
+                                                             const Pegasus::String& nameSpace,
+                                                             mts_dm_sw_dom_list_info_* entry,
+                                                             fspfLinkEntry* link);
+  static Pegasus::CIMInstance system_device_build_instance(int index, const char* className,
+                                                           const Pegasus::String& nameSpace,
+                                                           mts_dm_sw_dom_list_info_* entry,
+                                                           fspfLinkEntry* link);
+  static Pegasus::CIMObject system_device_build_object(int index, const char* className,
+                                                       const Pegasus::String& nameSpace,
+                                                       mts_dm_sw_dom_list_info_* entry,
+                                                       fspfLinkEntry* link);
+
+  // A device's port among the ports of its node.
+  static Pegasus::CIMObjectPath fcnode_member_collection_fill_reference(
+      const char* className, const Pegasus::String& nameSpace, ns_api_register_req_* entry);
+  static Pegasus::CIMInstance fcnode_member_collection_build_instance(
+      const char* className, const Pegasus::String& nameSpace, ns_api_register_req_* entry);
+  static Pegasus::CIMObject fcnode_member_collection_build_object(const char* className,
+                                                                  const Pegasus::String& nameSpace,
+                                                                  ns_api_register_req_* entry);
+
+  // The port of the device of one name-server entry, on the switch that the device of another is
+  // attached to.
+  static Pegasus::CIMObjectPath system_device_fill_reference(const char* className,
+                                                             const Pegasus::String& nameSpace,
+                                                             ns_api_register_req_* attached,
+                                                             ns_api_register_req_* device);
+  static Pegasus::CIMInstance system_device_build_instance(const char* className,
+                                                           const Pegasus::String& nameSpace,
+                                                           ns_api_register_req_* attached,
+                                                           ns_api_register_req_* device);
+  static Pegasus::CIMObject system_device_build_object(const char* className,
+                                                       const Pegasus::String& nameSpace,
+                                                       ns_api_register_req_* attached,
+                                                       ns_api_register_req_* device);
 };
 
 // Assigns to `property` a new one with the given name and an array whose only element is `value`,
