@@ -139,14 +139,23 @@ CIMInstance to_pegasus(model::Object object) {
   return object.object != nullptr ? *static_cast<const CIMInstance*>(object.object) : CIMInstance();
 }
 
+namespace {
+
+// An end that could not be made is left out.
+model::Ref end_of(const CIMObjectPath& path) {
+  return {path.getClassName().isNull() ? nullptr : &path};
+}
+
+}  // namespace
+
 CIMObjectPath association_reference(const char* cls, const String& ns, const CIMObjectPath& first,
                                     const CIMObjectPath& second, const char* first_role,
                                     const char* second_role) {
   const Pegasus::CString ns_text = ns.getCString();
   PegasusBuilder builder;
   auto [out, ref] = builder.open_path(cls, ns_text, model::BadPath::null);
-  out->reference(first_role, {&first});
-  out->reference(second_role, {&second});
+  out->reference(first_role, end_of(first));
+  out->reference(second_role, end_of(second));
   return to_pegasus(builder.close_path(out));
 }
 
@@ -156,8 +165,8 @@ CIMInstance association_instance(const char* cls, const String& ns, const CIMObj
   const Pegasus::CString ns_text = ns.getCString();
   PegasusBuilder builder;
   model::ObjectWriter* out = builder.open_instance(cls, ns_text);
-  out->reference(first_role, {&first});
-  out->reference(second_role, {&second});
+  out->reference(first_role, end_of(first));
+  out->reference(second_role, end_of(second));
   const CIMObjectPath path = association_reference(cls, ns, first, second, first_role, second_role);
   out->path({&path});
   return to_pegasus(builder.close_instance(out));

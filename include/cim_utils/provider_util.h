@@ -22,9 +22,11 @@
 #include <Pegasus/Provider/CIMOMHandle.h>
 #include <cim_utils/export.h>
 #include <cim_utils/fabric_configuration.h>
+#include <cim_utils/zoning_records.h>
 #include <switch_platform/records_domain_manager.h>
 #include <switch_platform/records_fspf.h>
 #include <switch_platform/records_name_server.h>
+#include <switch_platform/records_platform_manager.h>
 #include <switch_platform/records_port_manager.h>
 #include <switch_platform/records_vsan.h>
 
@@ -332,6 +334,450 @@ class CIM_UTILS_EXPORT ProviderUtil {
   static Pegasus::CIMObject port_stat_build_object(const char* className,
                                                    const Pegasus::String& nameSpace,
                                                    pm_port_info_* port);
+  // Zoning objects, services and capabilities, and what ties them together. Unlike the other
+  // members, these take the namespace first and the class name second, deliberately.
+
+  // A zone set. Properties "ElementName" (its name) and "Active".
+  static Pegasus::CIMObjectPath zone_set_fill_reference(const Pegasus::String& nameSpace,
+                                                        const Pegasus::String& className,
+                                                        const zs_cim_zone_set_* zoneSet);
+  static Pegasus::CIMInstance zone_set_build_instance(const Pegasus::String& nameSpace,
+                                                      const Pegasus::String& className,
+                                                      const zs_cim_zone_set_* zoneSet);
+  static Pegasus::CIMObject zone_set_build_object(const Pegasus::String& nameSpace,
+                                                  const Pegasus::String& className,
+                                                  const zs_cim_zone_set_* zoneSet);
+
+  // A zone. Properties "ElementName", "Active", "ProtocolType", "ReadOnly", "ZoneType".
+  static Pegasus::CIMObjectPath zone_fill_reference(const Pegasus::String& nameSpace,
+                                                    const Pegasus::String& className,
+                                                    const zs_cim_zone_* zone);
+  static Pegasus::CIMInstance zone_build_instance(const Pegasus::String& nameSpace,
+                                                  const Pegasus::String& className,
+                                                  const zs_cim_zone_* zone);
+  static Pegasus::CIMObject zone_build_object(const Pegasus::String& nameSpace,
+                                              const Pegasus::String& className,
+                                              const zs_cim_zone_* zone);
+
+  // A zone alias. Properties "ElementName" and "CollectionAlias" (its name) and "Active".
+  static Pegasus::CIMObjectPath zone_alias_fill_reference(const Pegasus::String& nameSpace,
+                                                          const Pegasus::String& className,
+                                                          const zs_cim_alias_* alias);
+  static Pegasus::CIMInstance zone_alias_build_instance(const Pegasus::String& nameSpace,
+                                                        const Pegasus::String& className,
+                                                        const zs_cim_alias_* alias);
+  static Pegasus::CIMObject zone_alias_build_object(const Pegasus::String& nameSpace,
+                                                    const Pegasus::String& className,
+                                                    const zs_cim_alias_* alias);
+
+  // A member of a zone or an alias. Properties "ConnectivityMemberID" (its display text) and
+  // "ConnectivityMemberType".
+  static Pegasus::CIMObjectPath zone_member_fill_reference(const Pegasus::String& nameSpace,
+                                                           const Pegasus::String& className,
+                                                           const zs_cim_zone_member_* member);
+  static Pegasus::CIMInstance zone_member_build_instance(const Pegasus::String& nameSpace,
+                                                         const Pegasus::String& className,
+                                                         const zs_cim_zone_member_* member);
+  static Pegasus::CIMObject zone_member_build_object(const Pegasus::String& nameSpace,
+                                                     const Pegasus::String& className,
+                                                     const zs_cim_zone_member_* member);
+
+  // The zone service of a VSAN. Keys "Name" (the VSAN number), "SystemName" (the VSAN's key text,
+  // for which the VSAN manager and the domain manager are asked; the number when they do not
+  // answer), "SystemCreationClassName", "CreationClassName". The instance asks the zone server for
+  // the default policy, property "defaultZoningState".
+  static Pegasus::CIMObjectPath zone_service_fill_reference(const Pegasus::String& nameSpace,
+                                                            const Pegasus::String& className,
+                                                            int vsan);
+  static Pegasus::CIMInstance zone_service_build_instance(const Pegasus::String& nameSpace,
+                                                          const Pegasus::String& className,
+                                                          int vsan);
+  static Pegasus::CIMObject zone_service_build_object(const Pegasus::String& nameSpace,
+                                                      const Pegasus::String& className, int vsan);
+
+  // What zone servers can do: constants. Asks no service.
+  static Pegasus::CIMObjectPath zone_cap_fill_reference(const Pegasus::String& nameSpace,
+                                                        const Pegasus::String& className,
+                                                        const char* instanceId);
+  static Pegasus::CIMInstance zone_cap_build_instance(const Pegasus::String& nameSpace,
+                                                      const Pegasus::String& className,
+                                                      const char* instanceId);
+  static Pegasus::CIMObject zone_cap_build_object(const Pegasus::String& nameSpace,
+                                                  const Pegasus::String& className,
+                                                  const char* instanceId);
+
+  // A zone in a zone set, by their instance ids: "Collection", "Member".
+  static Pegasus::CIMObjectPath zmoc_fill_reference_zoneSetZone(const Pegasus::String& nameSpace,
+                                                                const Pegasus::String& className,
+                                                                const char* zoneSetId,
+                                                                const char* zoneId);
+  static Pegasus::CIMInstance zmoc_build_instance_zoneSetZone(const Pegasus::String& nameSpace,
+                                                              const Pegasus::String& className,
+                                                              const char* zoneSetId,
+                                                              const char* zoneId);
+  static Pegasus::CIMObject zmoc_build_object_zoneSetZone(const Pegasus::String& nameSpace,
+                                                          const Pegasus::String& className,
+                                                          const char* zoneSetId,
+                                                          const char* zoneId);
+
+  // An alias in a zone: "Collection", "Member".
+  static Pegasus::CIMObjectPath zmoc_fill_reference(const Pegasus::String& nameSpace,
+                                                    const Pegasus::String& className,
+                                                    const zs_cim_zone_* zone,
+                                                    const zs_cim_alias_* alias);
+  static Pegasus::CIMInstance zmoc_build_instance(const Pegasus::String& nameSpace,
+                                                  const Pegasus::String& className,
+                                                  const zs_cim_zone_* zone,
+                                                  const zs_cim_alias_* alias);
+  static Pegasus::CIMObject zmoc_build_object(const Pegasus::String& nameSpace,
+                                              const Pegasus::String& className,
+                                              const zs_cim_zone_* zone, const zs_cim_alias_* alias);
+
+  // A member of a zone: "ManagedElement", "SettingData".
+  static Pegasus::CIMObjectPath esd_fill_reference_zoneZoneMember(
+      const Pegasus::String& nameSpace, const Pegasus::String& className, const zs_cim_zone_* zone,
+      const zs_cim_zone_member_* member);
+  static Pegasus::CIMInstance esd_build_instance_zoneZoneMember(const Pegasus::String& nameSpace,
+                                                                const Pegasus::String& className,
+                                                                const zs_cim_zone_* zone,
+                                                                const zs_cim_zone_member_* member);
+  static Pegasus::CIMObject esd_build_object_zoneZoneMember(const Pegasus::String& nameSpace,
+                                                            const Pegasus::String& className,
+                                                            const zs_cim_zone_* zone,
+                                                            const zs_cim_zone_member_* member);
+
+  // A member of an alias: "ManagedElement", "SettingData".
+  static Pegasus::CIMObjectPath esd_fill_reference_zoneAliasZoneMember(
+      const Pegasus::String& nameSpace, const Pegasus::String& className,
+      const zs_cim_alias_* alias, const zs_cim_zone_member_* member);
+  static Pegasus::CIMInstance esd_build_instance_zoneAliasZoneMember(
+      const Pegasus::String& nameSpace, const Pegasus::String& className,
+      const zs_cim_alias_* alias, const zs_cim_zone_member_* member);
+  static Pegasus::CIMObject esd_build_object_zoneAliasZoneMember(const Pegasus::String& nameSpace,
+                                                                 const Pegasus::String& className,
+                                                                 const zs_cim_alias_* alias,
+                                                                 const zs_cim_zone_member_* member);
+
+  // The connectivity collection that a VSAN hosts: "Antecedent" the VSAN, "Dependent" the
+  // collection of that number.
+  static Pegasus::CIMObjectPath hosted_collection_fill_reference(const Pegasus::String& nameSpace,
+                                                                 const Pegasus::String& className,
+                                                                 vsanNewEntry_t* vsan,
+                                                                 mts_dm_sw_conf_* swConf,
+                                                                 int number);
+  static Pegasus::CIMInstance hosted_collection_build_instance(const Pegasus::String& nameSpace,
+                                                               const Pegasus::String& className,
+                                                               vsanNewEntry_t* vsan,
+                                                               mts_dm_sw_conf_* swConf, int number);
+  static Pegasus::CIMObject hosted_collection_build_object(const Pegasus::String& nameSpace,
+                                                           const Pegasus::String& className,
+                                                           vsanNewEntry_t* vsan,
+                                                           mts_dm_sw_conf_* swConf, int number);
+
+  // A zone set that a VSAN hosts: "Antecedent", "Dependent".
+  static Pegasus::CIMObjectPath hosted_collection_fill_reference_zset(
+      const Pegasus::String& nameSpace, const Pegasus::String& className, vsanNewEntry_t* vsan,
+      mts_dm_sw_conf_* swConf, const zs_cim_zone_set_* zoneSet);
+  static Pegasus::CIMInstance hosted_collection_build_instance_zset(
+      const Pegasus::String& nameSpace, const Pegasus::String& className, vsanNewEntry_t* vsan,
+      mts_dm_sw_conf_* swConf, const zs_cim_zone_set_* zoneSet);
+  static Pegasus::CIMObject hosted_collection_build_object_zset(const Pegasus::String& nameSpace,
+                                                                const Pegasus::String& className,
+                                                                vsanNewEntry_t* vsan,
+                                                                mts_dm_sw_conf_* swConf,
+                                                                const zs_cim_zone_set_* zoneSet);
+
+  // A zone that a VSAN hosts: "Antecedent", "Dependent".
+  static Pegasus::CIMObjectPath hosted_collection_fill_reference_zone(
+      const Pegasus::String& nameSpace, const Pegasus::String& className, vsanNewEntry_t* vsan,
+      mts_dm_sw_conf_* swConf, const zs_cim_zone_* zone);
+  static Pegasus::CIMInstance hosted_collection_build_instance_zone(
+      const Pegasus::String& nameSpace, const Pegasus::String& className, vsanNewEntry_t* vsan,
+      mts_dm_sw_conf_* swConf, const zs_cim_zone_* zone);
+  static Pegasus::CIMObject hosted_collection_build_object_zone(const Pegasus::String& nameSpace,
+                                                                const Pegasus::String& className,
+                                                                vsanNewEntry_t* vsan,
+                                                                mts_dm_sw_conf_* swConf,
+                                                                const zs_cim_zone_* zone);
+
+  // An alias that a VSAN hosts: "Antecedent", "Dependent".
+  static Pegasus::CIMObjectPath hosted_collection_fill_reference_zalias(
+      const Pegasus::String& nameSpace, const Pegasus::String& className, vsanNewEntry_t* vsan,
+      mts_dm_sw_conf_* swConf, const zs_cim_alias_* alias);
+  static Pegasus::CIMInstance hosted_collection_build_instance_zalias(
+      const Pegasus::String& nameSpace, const Pegasus::String& className, vsanNewEntry_t* vsan,
+      mts_dm_sw_conf_* swConf, const zs_cim_alias_* alias);
+  static Pegasus::CIMObject hosted_collection_build_object_zalias(const Pegasus::String& nameSpace,
+                                                                  const Pegasus::String& className,
+                                                                  vsanNewEntry_t* vsan,
+                                                                  mts_dm_sw_conf_* swConf,
+                                                                  const zs_cim_alias_* alias);
+
+  // A member of a collection, by two references: "Collection", "Member".
+  static Pegasus::CIMObjectPath zmoc_fill_reference_MemberCollection(
+      const Pegasus::String& nameSpace, const Pegasus::String& className,
+      const Pegasus::CIMObjectPath& collectionRef, const Pegasus::CIMObjectPath& memberRef);
+  static Pegasus::CIMInstance zmoc_build_instance_MemberCollection(
+      const Pegasus::String& nameSpace, const Pegasus::String& className,
+      const Pegasus::CIMObjectPath& collectionRef, const Pegasus::CIMObjectPath& memberRef);
+  static Pegasus::CIMObject zmoc_build_object_MemberCollection(
+      const Pegasus::String& nameSpace, const Pegasus::String& className,
+      const Pegasus::CIMObjectPath& collectionRef, const Pegasus::CIMObjectPath& memberRef);
+
+  // A collection and its host, by two references: "Antecedent", "Dependent".
+  static Pegasus::CIMObjectPath zone_hosted_collection_fill_reference(
+      const Pegasus::String& nameSpace, const Pegasus::String& className,
+      const Pegasus::CIMObjectPath& hostRef, const Pegasus::CIMObjectPath& collectionRef);
+  static Pegasus::CIMInstance zhc_build_instance(const Pegasus::String& nameSpace,
+                                                 const Pegasus::String& className,
+                                                 const Pegasus::CIMObjectPath& hostRef,
+                                                 const Pegasus::CIMObjectPath& collectionRef);
+  static Pegasus::CIMObject zhc_build_object(const Pegasus::String& nameSpace,
+                                             const Pegasus::String& className,
+                                             const Pegasus::CIMObjectPath& hostRef,
+                                             const Pegasus::CIMObjectPath& collectionRef);
+
+  // The zone service that a VSAN hosts. Class name first, unlike the other zoning members,
+  // deliberately.
+  static Pegasus::CIMObjectPath hosted_service_fill_reference(const Pegasus::String& className,
+                                                              const Pegasus::String& nameSpace,
+                                                              vsanNewEntry_t* vsan,
+                                                              mts_dm_sw_conf_* swConf);
+  static Pegasus::CIMInstance hosted_service_build_instance(const Pegasus::String& className,
+                                                            const Pegasus::String& nameSpace,
+                                                            vsanNewEntry_t* vsan,
+                                                            mts_dm_sw_conf_* swConf);
+  static Pegasus::CIMObject hosted_service_build_object(const Pegasus::String& className,
+                                                        const Pegasus::String& nameSpace,
+                                                        vsanNewEntry_t* vsan,
+                                                        mts_dm_sw_conf_* swConf);
+  // The product. The reference takes the namespace first, deliberately.
+  static Pegasus::CIMObjectPath product_fill_reference(const Pegasus::String& nameSpace,
+                                                       const char* className);
+  static Pegasus::CIMInstance product_build_instance(const char* className,
+                                                     const Pegasus::String& nameSpace);
+  static Pegasus::CIMObject product_build_object(const char* className,
+                                                 const Pegasus::String& nameSpace);
+
+  // The chassis. The reference takes the namespace first, deliberately. The instance asks the
+  // platform manager for the serial PROM.
+  static Pegasus::CIMObjectPath physical_package_fill_reference(const Pegasus::String& nameSpace,
+                                                                const char* className);
+  static Pegasus::CIMInstance physical_package_build_instance(const char* className,
+                                                              const Pegasus::String& nameSpace);
+  static Pegasus::CIMObject physical_package_build_object(const char* className,
+                                                          const Pegasus::String& nameSpace);
+
+  // The physical side of an interface.
+  static Pegasus::CIMObjectPath physical_element_fill_reference(const char* className,
+                                                                const Pegasus::String& nameSpace,
+                                                                pm_port_info_* info);
+  static Pegasus::CIMInstance physical_element_build_instance(const char* className,
+                                                              const Pegasus::String& nameSpace,
+                                                              pm_port_info_* info);
+  static Pegasus::CIMObject physical_element_build_object(const char* className,
+                                                          const Pegasus::String& nameSpace,
+                                                          pm_port_info_* info);
+
+  // A line card or a supervisor. Key "CreationClassName" of the reference is VEXOR_LogicalModule,
+  // whatever class is given, deliberately.
+  static Pegasus::CIMObjectPath logical_module_fill_reference(const Pegasus::String& className,
+                                                              const Pegasus::String& nameSpace,
+                                                              _vefcModuleEntry* module);
+  static Pegasus::CIMInstance logical_module_build_instance(const Pegasus::String& className,
+                                                            const Pegasus::String& nameSpace,
+                                                            _vefcModuleEntry* module,
+                                                            _entPhysicalEntry* entity);
+  static Pegasus::CIMObject logical_module_build_object(const Pegasus::String& className,
+                                                        const Pegasus::String& nameSpace,
+                                                        _vefcModuleEntry* module,
+                                                        _entPhysicalEntry* entity);
+
+  // The chassis of the own switch. The instance is a VEXOR_ComputerSystemPackage, whatever class is
+  // given, deliberately; its path keeps the given class.
+  static Pegasus::CIMObjectPath switch_package_fill_reference(char* className,
+                                                              const Pegasus::String& nameSpace);
+  static Pegasus::CIMInstance switch_package_build_instance(char* className,
+                                                            const Pegasus::String& nameSpace);
+  static Pegasus::CIMObject switch_package_build_object(char* className,
+                                                        const Pegasus::String& nameSpace);
+
+  // What a logical object is made of: "Antecedent" the physical one, "Dependent" the logical one.
+  static Pegasus::CIMObjectPath realize_fill_reference(const char* className,
+                                                       const Pegasus::String& nameSpace,
+                                                       Pegasus::CIMObjectPath physicalRef,
+                                                       Pegasus::CIMObjectPath logicalRef);
+  static Pegasus::CIMInstance realize_build_instance(const char* className,
+                                                     const Pegasus::String& nameSpace,
+                                                     Pegasus::CIMObjectPath physicalRef,
+                                                     Pegasus::CIMObjectPath logicalRef);
+  static Pegasus::CIMObject realize_build_object(const char* className,
+                                                 const Pegasus::String& nameSpace,
+                                                 Pegasus::CIMObjectPath physicalRef,
+                                                 Pegasus::CIMObjectPath logicalRef);
+  // One thing known as two: "SystemElement", "SameElement".
+  // The instance is a VEXOR_LogicalIdentity whatever class is given, deliberately; the reference
+  // keeps the given class.
+  static Pegasus::CIMObjectPath logical_identity_fill_reference(
+      const char* className, const Pegasus::String& nameSpace,
+      const Pegasus::CIMObjectPath& systemRef, const Pegasus::CIMObjectPath& sameRef);
+  static Pegasus::CIMInstance logical_identity_build_instance(
+      const char* className, const Pegasus::String& nameSpace,
+      const Pegasus::CIMObjectPath& systemRef, const Pegasus::CIMObjectPath& sameRef);
+  static Pegasus::CIMObject logical_identity_build_object(const char* className,
+                                                          const Pegasus::String& nameSpace,
+                                                          const Pegasus::CIMObjectPath& systemRef,
+                                                          const Pegasus::CIMObjectPath& sameRef);
+
+  // What a system hosts: "Antecedent" the host, "Dependent" the hosted.
+  static Pegasus::CIMObjectPath hosted_dependency_fill_reference(
+      const char* className, const Pegasus::String& nameSpace,
+      const Pegasus::CIMObjectPath& hostRef, const Pegasus::CIMObjectPath& hostedRef);
+  static Pegasus::CIMInstance hosted_dependency_build_instance(
+      const char* className, const Pegasus::String& nameSpace,
+      const Pegasus::CIMObjectPath& hostRef, const Pegasus::CIMObjectPath& hostedRef);
+  static Pegasus::CIMObject hosted_dependency_build_object(const char* className,
+                                                           const Pegasus::String& nameSpace,
+                                                           const Pegasus::CIMObjectPath& hostRef,
+                                                           const Pegasus::CIMObjectPath& hostedRef);
+
+  // An access point that a system hosts: "Antecedent" the system, "Dependent" the access point.
+  static Pegasus::CIMObjectPath hosted_access_point_fill_reference(
+      const char* className, const Pegasus::String& nameSpace, Pegasus::CIMObjectPath systemRef,
+      Pegasus::CIMObjectPath accessPointRef);
+  static Pegasus::CIMInstance hosted_access_point_build_instance(
+      const char* className, const Pegasus::String& nameSpace, Pegasus::CIMObjectPath systemRef,
+      Pegasus::CIMObjectPath accessPointRef);
+  static Pegasus::CIMObject hosted_access_point_build_object(const char* className,
+                                                             const Pegasus::String& nameSpace,
+                                                             Pegasus::CIMObjectPath systemRef,
+                                                             Pegasus::CIMObjectPath accessPointRef);
+
+  // An access point that a device implements: "Antecedent" the device, "Dependent" the access
+  // point.
+  static Pegasus::CIMObjectPath device_sap_implementation_fill_reference(
+      const char* className, const Pegasus::String& nameSpace, Pegasus::CIMObjectPath deviceRef,
+      Pegasus::CIMObjectPath accessPointRef);
+  static Pegasus::CIMInstance device_sap_implementation_build_instance(
+      const char* className, const Pegasus::String& nameSpace, Pegasus::CIMObjectPath deviceRef,
+      Pegasus::CIMObjectPath accessPointRef);
+  static Pegasus::CIMObject device_sap_implementation_build_object(
+      const char* className, const Pegasus::String& nameSpace, Pegasus::CIMObjectPath deviceRef,
+      Pegasus::CIMObjectPath accessPointRef);
+
+  // Two connected endpoints: "Antecedent", "Dependent".
+  static Pegasus::CIMObjectPath active_connection_fill_reference(
+      const char* className, const Pegasus::String& nameSpace,
+      const Pegasus::CIMObjectPath& fromRef, const Pegasus::CIMObjectPath& toRef);
+  static Pegasus::CIMInstance active_connection_build_instance(
+      const char* className, const Pegasus::String& nameSpace,
+      const Pegasus::CIMObjectPath& fromRef, const Pegasus::CIMObjectPath& toRef);
+  static Pegasus::CIMObject active_connection_build_object(const char* className,
+                                                           const Pegasus::String& nameSpace,
+                                                           const Pegasus::CIMObjectPath& fromRef,
+                                                           const Pegasus::CIMObjectPath& toRef);
+
+  // A port of a node: "Collection" the port group, "Member" the port.
+  static Pegasus::CIMObjectPath fcnode_member_collection_fill_reference(
+      const char* className, const Pegasus::String& nameSpace, Pegasus::CIMObjectPath groupRef,
+      Pegasus::CIMObjectPath portRef);
+  static Pegasus::CIMInstance fcnode_member_collection_build_instance(
+      const char* className, const Pegasus::String& nameSpace, Pegasus::CIMObjectPath groupRef,
+      Pegasus::CIMObjectPath portRef);
+  static Pegasus::CIMObject fcnode_member_collection_build_object(const char* className,
+                                                                  const Pegasus::String& nameSpace,
+                                                                  Pegasus::CIMObjectPath groupRef,
+                                                                  Pegasus::CIMObjectPath portRef);
+
+  // A member of a connectivity collection: "Collection", "Member".
+  static Pegasus::CIMObjectPath connectivity_member_collection_fill_reference(
+      const char* className, const Pegasus::String& nameSpace, Pegasus::CIMObjectPath collectionRef,
+      Pegasus::CIMObjectPath memberRef);
+  static Pegasus::CIMInstance connectivity_member_collection_build_instance(
+      const char* className, const Pegasus::String& nameSpace, Pegasus::CIMObjectPath collectionRef,
+      Pegasus::CIMObjectPath memberRef);
+  static Pegasus::CIMObject connectivity_member_collection_build_object(
+      const char* className, const Pegasus::String& nameSpace, Pegasus::CIMObjectPath collectionRef,
+      Pegasus::CIMObjectPath memberRef);
+
+  // A device of a system: "GroupComponent", "PartComponent".
+  static Pegasus::CIMObjectPath system_device_fill_reference(const char* className,
+                                                             const Pegasus::String& nameSpace,
+                                                             Pegasus::CIMObjectPath systemRef,
+                                                             Pegasus::CIMObjectPath deviceRef);
+  static Pegasus::CIMInstance system_device_build_instance(const char* className,
+                                                           const Pegasus::String& nameSpace,
+                                                           Pegasus::CIMObjectPath systemRef,
+                                                           Pegasus::CIMObjectPath deviceRef);
+  static Pegasus::CIMObject system_device_build_object(const char* className,
+                                                       const Pegasus::String& nameSpace,
+                                                       Pegasus::CIMObjectPath systemRef,
+                                                       Pegasus::CIMObjectPath deviceRef);
+
+  // The connection of a link between switches: "Antecedent" its far end, "Dependent" the end that
+  // advertised it. interface is handed to pe_fill_reference_fspf.
+  static Pegasus::CIMObjectPath active_connection_fill_reference(const char* className,
+                                                                 const Pegasus::String& nameSpace,
+                                                                 fspfLinkEntry* link,
+                                                                 int interface);
+  static Pegasus::CIMInstance active_connection_build_instance(const char* className,
+                                                               const Pegasus::String& nameSpace,
+                                                               fspfLinkEntry* link, int interface);
+  static Pegasus::CIMObject active_connection_build_object(const char* className,
+                                                           const Pegasus::String& nameSpace,
+                                                           fspfLinkEntry* link, int interface);
+
+  // The connection of a device: "Antecedent" the fabric's side, "Dependent" the device's; the other
+  // way round than for links, deliberately.
+  static Pegasus::CIMObjectPath active_connection_fill_reference(const char* className,
+                                                                 const Pegasus::String& nameSpace,
+                                                                 ns_api_register_req_* entry);
+  static Pegasus::CIMInstance active_connection_build_instance(const char* className,
+                                                               const Pegasus::String& nameSpace,
+                                                               ns_api_register_req_* entry);
+  static Pegasus::CIMObject active_connection_build_object(const char* className,
+                                                           const Pegasus::String& nameSpace,
+                                                           ns_api_register_req_* entry);
+
+  // The port at the end of a link that advertised it, on the switch of a domain. A switch of the
+  // maker is seen as its part in the VSAN, another as a device. index is handed to the port's
+  // builder.
+  static Pegasus::CIMObjectPath system_device_fill_reference(int index, const char* className,
+                                                             const Pegasus::String& nameSpace,
+                                                             mts_dm_sw_dom_list_info_* entry,
+                                                             fspfLinkEntry* link);
+  static Pegasus::CIMInstance system_device_build_instance(int index, const char* className,
+                                                           const Pegasus::String& nameSpace,
+                                                           mts_dm_sw_dom_list_info_* entry,
+                                                           fspfLinkEntry* link);
+  static Pegasus::CIMObject system_device_build_object(int index, const char* className,
+                                                       const Pegasus::String& nameSpace,
+                                                       mts_dm_sw_dom_list_info_* entry,
+                                                       fspfLinkEntry* link);
+
+  // A device's port among the ports of its node.
+  static Pegasus::CIMObjectPath fcnode_member_collection_fill_reference(
+      const char* className, const Pegasus::String& nameSpace, ns_api_register_req_* entry);
+  static Pegasus::CIMInstance fcnode_member_collection_build_instance(
+      const char* className, const Pegasus::String& nameSpace, ns_api_register_req_* entry);
+  static Pegasus::CIMObject fcnode_member_collection_build_object(const char* className,
+                                                                  const Pegasus::String& nameSpace,
+                                                                  ns_api_register_req_* entry);
+
+  // The port of the device of one name-server entry, on the switch that the device of another is
+  // attached to.
+  static Pegasus::CIMObjectPath system_device_fill_reference(const char* className,
+                                                             const Pegasus::String& nameSpace,
+                                                             ns_api_register_req_* attached,
+                                                             ns_api_register_req_* device);
+  static Pegasus::CIMInstance system_device_build_instance(const char* className,
+                                                           const Pegasus::String& nameSpace,
+                                                           ns_api_register_req_* attached,
+                                                           ns_api_register_req_* device);
+  static Pegasus::CIMObject system_device_build_object(const char* className,
+                                                       const Pegasus::String& nameSpace,
+                                                       ns_api_register_req_* attached,
+                                                       ns_api_register_req_* device);
 };
 
 // Assigns to `property` a new one with the given name and an array whose only element is `value`,
