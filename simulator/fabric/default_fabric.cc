@@ -28,6 +28,32 @@ DomainManager make_domain(const Switch& owner, uint8_t domain_id, uint8_t priori
   return made;
 }
 
+ZoneMember port_wwn_member(const char* last_bytes) {
+  return {0, 1, std::string("\x21\x00\x00\xE0\x8B", 5) + last_bytes};
+}
+
+// Two hosts, each in a zone of its own with the ports of one array, which an alias holds.
+Zoning make_zoning(const std::vector<Switch>& switches) {
+  using namespace std::string_literals;
+  Zoning zoning;
+  ZoneDatabase& full = zoning.full.change();
+  full.create(ZoningKind::alias, "array1");
+  full.add_member(ZoningKind::alias, 1, {0, 1, "\x50\x06\x0E\x80\x00\xC2\x62\x00"s});
+  full.add_member(ZoningKind::alias, 1, {0, 1, "\x50\x06\x0E\x80\x00\xC2\x62\x10"s});
+  full.create(ZoningKind::zone, "host1_array1");
+  full.add_member(ZoningKind::zone, 1, port_wwn_member("\x05\x05\x04"));
+  full.add_alias(1, 1);
+  full.create(ZoningKind::zone, "host2_array1");
+  full.add_member(ZoningKind::zone, 2, port_wwn_member("\x05\x17\x22"));
+  full.add_alias(2, 1);
+  full.create(ZoningKind::zone_set, "production");
+  full.add_zone(1, 1);
+  full.add_zone(1, 2);
+  zoning.active.change() = full.excerpt(1);
+  zoning.distributed = {{switches[1].wwn, zoning.full}, {switches[2].wwn, zoning.full}};
+  return zoning;
+}
+
 }  // namespace
 
 Fabric default_fabric() {
@@ -46,6 +72,7 @@ Fabric default_fabric() {
   first.principal_switch = fabric.switches[0].wwn;
   first.domains = {make_domain(fabric.switches[0], 97, 1), make_domain(fabric.switches[1], 98, 128),
                    make_domain(fabric.switches[2], 99, 128)};
+  first.zoning.change() = make_zoning(fabric.switches);
 
   Vsan second;
   second.number = 2;

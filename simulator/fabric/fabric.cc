@@ -22,6 +22,8 @@ const auto kSwitchWwn = [](const Switch& element) { return element.wwn; };
 const auto kVsanNumber = [](const Vsan& element) { return element.number; };
 const auto kDomainSwitch = [](const DomainManager& element) { return element.switch_wwn; };
 
+const auto kHolder = [](const DistributedZoning& element) { return element.switch_wwn; };
+
 bool has_control_character(std::string_view text) {
   return std::any_of(text.begin(), text.end(), [](char character) {
     return static_cast<unsigned char>(character) < 0x20 || character == 0x7F;
@@ -85,6 +87,24 @@ std::optional<std::string> problem_of_domains(const Fabric& fabric, const Vsan& 
   return std::nullopt;
 }
 
+// A database keeps its own rules; what is left is who holds it.
+std::optional<std::string> problem_of_zoning(const Fabric& fabric, const Vsan& vsan) {
+  const std::string where = "VSAN " + std::to_string(vsan.number) + ", zoning: ";
+  if (vsan.zoning->active->zone_sets().size() > 1) return where + "two zone sets are active";
+  const DistributedZoning* previous = nullptr;
+  for (const DistributedZoning& held : vsan.zoning->distributed) {
+    const std::string text = to_text(held.switch_wwn);
+    if (held.switch_wwn == fabric.local_switch || find_domain(vsan, held.switch_wwn) == nullptr) {
+      return where + text + " is no other switch of the VSAN";
+    }
+    if (previous != nullptr && previous->switch_wwn == held.switch_wwn) {
+      return where + text + " holds two databases";
+    }
+    previous = &held;
+  }
+  return std::nullopt;
+}
+
 std::optional<std::string> problem_of(const Fabric& fabric, const Vsan& vsan) {
   const std::string where = "VSAN " + std::to_string(vsan.number);
   if (vsan.number < 1 || vsan.number > kLargestVsan) {
@@ -94,6 +114,7 @@ std::optional<std::string> problem_of(const Fabric& fabric, const Vsan& vsan) {
   if (vsan.name.size() > kLongestVsanName) return where + ": the name is too long";
   if (!is_name(vsan.name)) return where + ": the name is not UTF-8 of one line";
   if (auto problem = problem_of_domains(fabric, vsan)) return problem;
+  if (auto problem = problem_of_zoning(fabric, vsan)) return problem;
   if (vsan.principal_switch != kNoWwn) {
     const DomainManager* principal = find_domain(vsan, vsan.principal_switch);
     if (principal == nullptr || !principal->enabled) {
@@ -117,6 +138,10 @@ void sort(Fabric& fabric) {
   std::stable_sort(fabric.vsans.begin(), fabric.vsans.end(), by(kVsanNumber));
   for (Vsan& vsan : fabric.vsans) {
     std::stable_sort(vsan.domains.begin(), vsan.domains.end(), by(kDomainSwitch));
+    if (vsan.zoning->distributed.size() > 1) {
+      auto& distributed = vsan.zoning.change().distributed;
+      std::stable_sort(distributed.begin(), distributed.end(), by(kHolder));
+    }
   }
 }
 

@@ -10,6 +10,9 @@
 #include <string_view>
 #include <vector>
 
+#include "simulator/fabric/wwn.h"
+#include "simulator/fabric/zoning.h"
+
 namespace switch_sim {
 
 inline constexpr uint32_t kLargestVsan = 4094;
@@ -18,13 +21,6 @@ inline constexpr size_t kLongestVsanName = 127;
 inline constexpr size_t kLongestSystemName = 255;
 inline constexpr size_t kLongestSystemText = 1023;
 inline constexpr size_t kLongestObjectId = 256;
-
-// A World Wide Name, most significant byte first.
-struct Wwn {
-  std::array<uint8_t, 8> bytes{};
-  friend bool operator==(const Wwn&, const Wwn&) = default;
-  friend bool operator<(const Wwn& left, const Wwn& right) { return left.bytes < right.bytes; }
-};
 
 // A management address: IPv4 in the first four bytes, or IPv6.
 struct IpAddress {
@@ -79,6 +75,7 @@ struct Vsan {
   LoadBalancing load_balancing = LoadBalancing::source_destination_exchange;
   Wwn principal_switch;                // switch-wide WWN; all zeros while there is none
   std::vector<DomainManager> domains;  // by switch WWN, rising
+  Shared<Zoning> zoning;
   friend bool operator==(const Vsan&, const Vsan&) = default;
 };
 

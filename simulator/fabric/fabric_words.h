@@ -15,6 +15,9 @@ inline constexpr std::array<std::string_view, 2> kLoadBalancingWords = {"src-id/
                                                                         "src-id/dst-id/ox-id"};
 inline constexpr std::array<std::string_view, 2> kDomainTypeWords = {"static", "preferred"};
 
+// In the order of the enumeration, whose first value is 0.
+inline constexpr std::array<std::string_view, 2> kZonePolicyWords = {"deny", "permit"};
+
 }  // namespace switch_sim
 
 #endif  // SIMULATOR_FABRIC_FABRIC_WORDS_H

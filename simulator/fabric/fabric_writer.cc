@@ -11,6 +11,7 @@
 #include "simulator/fabric/fabric_file.h"
 #include "simulator/fabric/fabric_words.h"
 #include "simulator/fabric/json.h"
+#include "simulator/fabric/zoning_file.h"
 
 namespace switch_sim {
 namespace {
@@ -83,6 +84,7 @@ void write_vsan(std::string& text, const Vsan& vsan) {
   }
   text += ",\n      \"domains\": ";
   write_list(text, "      ", vsan.domains, write_domain);
+  text += zoning_text(*vsan.zoning);
   text += "\n    }";
 }
 

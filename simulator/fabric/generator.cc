@@ -23,8 +23,11 @@ struct Parameter {
 constexpr size_t kSwitches = 0;
 constexpr size_t kVsans = 2;
 constexpr size_t kSeed = 4;
+constexpr size_t kZones = 5;
+constexpr size_t kMembers = 6;
+constexpr size_t kAliases = 7;
 
-using Parameters = std::array<Parameter, 5>;
+using Parameters = std::array<Parameter, 8>;
 
 constexpr Parameters kDefaults = {{
     {"switches", 1, kLargestDomainId, 3},
@@ -32,6 +35,9 @@ constexpr Parameters kDefaults = {{
     {"vsans", 0, kLargestVsan, 2},
     {"devices", 0, 100000, 0},
     {"seed", 0, UINT64_MAX, 1},
+    {"zones", 0, kMostZones, 0},      // of each VSAN, as the next two
+    {"members", 0, kMostMembers, 0},  // of its zones and aliases together
+    {"aliases", 0, kMostAliases, 0},
 }};
 
 std::string in_quotes(std::string_view text) {
@@ -190,11 +196,68 @@ Vsan make_vsan(uint32_t number, const Fabric& fabric, Random& random) {
   return made;
 }
 
+// What one fabric may hold of zones, members and aliases.
+constexpr uint64_t kMostZoningOfAllVsans = 2000000;
+
+std::string problem_with_zoning(const Parameters& parameters) {
+  const uint64_t zones = parameters[kZones].value, members = parameters[kMembers].value;
+  const uint64_t aliases = parameters[kAliases].value;
+  if (members > (zones + aliases) * kMostMembersOfParent) {
+    return "members: expected at most " + std::to_string(kMostMembersOfParent) +
+           " for each zone and alias, found \"" + std::to_string(members) + "\"";
+  }
+  if ((zones + members + aliases) * parameters[kVsans].value > kMostZoningOfAllVsans) {
+    return "zones, members and aliases of all VSANs: expected at most " +
+           std::to_string(kMostZoningOfAllVsans);
+  }
+  return "";
+}
+
+// The port WWN of a host that may be in several zones.
+ZoneMember make_member(uint64_t host) {
+  std::string wwn("\x21\x00\x00\xE0\x8B", 5);
+  for (const int shift : {16, 8, 0})
+    wwn += static_cast<char>(host >> shift);
+  return {0, 1, wwn};
+}
+
+// Members in turn to each zone and alias; each zone with an alias, while there are any; all zones
+// in one zone set, which is active.
+Zoning make_zoning(const Parameters& parameters, Random& random) {
+  const auto zones = static_cast<uint32_t>(parameters[kZones].value);
+  const auto aliases = static_cast<uint32_t>(parameters[kAliases].value);
+  const uint64_t members = parameters[kMembers].value;
+  Zoning zoning;
+  ZoneDatabase& full = zoning.full.change();
+  for (uint32_t id = 1; id <= aliases; ++id)
+    full.create(ZoningKind::alias, numbered("alias-%u", id));
+  for (uint32_t id = 1; id <= zones; ++id) {
+    full.create(ZoningKind::zone, numbered("zone-%u", id));
+    if (aliases != 0) full.add_alias(id, (id - 1) % aliases + 1);
+  }
+  for (uint64_t i = 0; i < members; ++i) {
+    const auto place = static_cast<uint32_t>(i % (zones + aliases)) + 1;
+    const auto kind = place <= zones ? ZoningKind::zone : ZoningKind::alias;
+    const uint32_t parent = place <= zones ? place : place - zones;
+    if (full.add_member(kind, parent, make_member(random.below(members / 2 + 1))) != 0) {
+      full.add_member(kind, parent, make_member(members + i));
+    }
+  }
+  if (zones != 0) {
+    full.create(ZoningKind::zone_set, "zoneset-1");
+    for (uint32_t id = 1; id <= zones; ++id)
+      full.add_zone(1, id);
+    zoning.active.change() = full.excerpt(1);
+  }
+  return zoning;
+}
+
 }  // namespace
 
 ReadFabric generate_fabric(std::string_view description) {
   Parameters parameters = kDefaults;
   std::string problem = read_parameters(description, parameters);
+  if (problem.empty()) problem = problem_with_zoning(parameters);
   if (!problem.empty()) return FabricError{std::move(problem)};
 
   Random random(parameters[kSeed].value);
@@ -207,6 +270,11 @@ ReadFabric generate_fabric(std::string_view description) {
   sort(fabric);
   for (const uint32_t number : choose_vsans(parameters[kVsans].value, random)) {
     fabric.vsans.push_back(make_vsan(number, fabric, random));
+  }
+  // Behind everything else, so that zoning changes nothing of a fabric but its zoning.
+  for (Vsan& vsan : fabric.vsans) {
+    Zoning zoning = make_zoning(parameters, random);
+    if (zoning != Zoning()) vsan.zoning.change() = std::move(zoning);
   }
   return fabric;
 }

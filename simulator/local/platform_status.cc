@@ -2,6 +2,7 @@
 #include "simulator/local/platform_status.h"
 
 #include <switch_platform/mts.h>
+#include <switch_platform/zone_server_results.h>
 
 #include <array>
 #include <cstdio>
@@ -29,12 +30,36 @@ constexpr std::array<std::pair<int32_t, const char*>, 15> kTexts = {{
     {kBadSystemInformationItem, "No such system-information item"},
 }};
 
+constexpr std::array<std::pair<int32_t, const char*>, 18> kZoneServerTexts = {{
+    {ZS_NO_SUCH_VSAN, "VSAN is not configured"},
+    {ZS_NO_SUCH_OBJECT, "No such zone set, zone or alias"},
+    {ZS_NO_SUCH_MEMBER, "No such member"},
+    {ZS_OBJECT_EXISTS, "Name is in use"},
+    {ZS_MEMBER_EXISTS, "Member is already present"},
+    {ZS_BAD_NAME, "Not a zoning name"},
+    {ZS_BAD_KIND, "Wrong kind of zoning object"},
+    {ZS_BAD_MEMBER, "Not a zone member"},
+    {ZS_ZONE_SET_EMPTY, "Zone set holds no zones"},
+    {ZS_TOO_MANY_ZONE_SETS, "Too many zone sets"},
+    {ZS_TOO_MANY_ZONES, "Too many zones"},
+    {ZS_TOO_MANY_ALIASES, "Too many zone aliases"},
+    {ZS_TOO_MANY_MEMBERS, "Too many zone members"},
+    {ZS_TOO_MANY_MEMBERS_OF_PARENT, "Too many members of one zone or alias"},
+    {ZS_ALREADY_ACTIVE, "Zone set is already active"},
+    {ZS_NOT_ACTIVE, "Zone set is not active"},
+    {ZS_ALREADY_DISTRIBUTED, "Zoning database is already distributed"},
+    {ZS_NOTHING_TO_DISTRIBUTE, "No zone set to distribute"},
+}};
+
 }  // namespace
 
 // A code without a text of its own is shown as a number, in a buffer of the calling thread that the
 // next such call overwrites.
 const char* syserr2str(int32_t code) {
   for (const auto& [known, text] : kTexts) {
+    if (known == code) return text;
+  }
+  for (const auto& [known, text] : kZoneServerTexts) {
     if (known == code) return text;
   }
   thread_local char buffer[32];

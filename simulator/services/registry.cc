@@ -4,6 +4,7 @@
 
 #include "simulator/local/platform_status.h"
 #include "simulator/services/services.h"
+#include "simulator/transport/zone_server_messages.h"
 
 namespace switch_sim {
 namespace {
@@ -31,6 +32,18 @@ constexpr std::array kRows = {
     Row{Service::system_name, 878, services::set_system_name},
     Row{Service::system_information, 1812, services::system_information},
     Row{Service::system_information, kSoftwareVersion, services::software_version},
+    Row{Service::zone_server, kZoningObject, services::zoning_object},
+    Row{Service::zone_server, kZoningObjects, services::zoning_objects},
+    Row{Service::zone_server, kZoneMember, services::zone_member},
+    Row{Service::zone_server, kZoningIdOfName, services::zoning_id_of_name},
+    Row{Service::zone_server, kZoningNameOfId, services::zoning_name_of_id},
+    Row{Service::zone_server, kZoningPolicy, services::zoning_policy},
+    Row{Service::zone_server, kChangeZoningObject, services::change_zoning_object},
+    Row{Service::zone_server, kChangeZoneOfZoneSet, services::change_zone_of_zone_set},
+    Row{Service::zone_server, kChangeAliasOfZone, services::change_alias_of_zone},
+    Row{Service::zone_server, kChangeZoneMember, services::change_zone_member},
+    Row{Service::zone_server, kActivateZoneSet, services::activate_zone_set},
+    Row{Service::zone_server, kDistributeZoning, services::distribute_zoning},
 };
 
 bool is_answered(Service service) {

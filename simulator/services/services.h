@@ -49,6 +49,20 @@ Outcome set_system_name(const Request& request, Fabric& fabric, VirtualTime now)
 Outcome system_information(const Request& request, Fabric& fabric, VirtualTime now);
 Outcome software_version(const Request& request, Fabric& fabric, VirtualTime now);
 
+// zone_server.cc, zone_server_changes.cc
+Outcome zoning_object(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome zoning_objects(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome zone_member(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome zoning_id_of_name(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome zoning_name_of_id(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome zoning_policy(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome change_zoning_object(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome change_zone_of_zone_set(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome change_alias_of_zone(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome change_zone_member(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome activate_zone_set(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome distribute_zoning(const Request& request, Fabric& fabric, VirtualTime now);
+
 }  // namespace services
 }  // namespace switch_sim
 

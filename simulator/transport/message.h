@@ -31,6 +31,7 @@ enum class Service : uint32_t {
   platform_manager = 39,
   switch_identity = 46,
   fabric_distribution = 256,
+  zone_server = 272,
 };
 
 inline constexpr uint32_t kGet = 1;
