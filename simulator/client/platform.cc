@@ -1,7 +1,6 @@
 #include "simulator/client/platform.h"
 
 #include <sys/un.h>
-#include <unistd.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -76,22 +75,18 @@ std::optional<std::string> Platform::problem_with_environment() {
 
 void Platform::install(Fabric fabric) {
   fabric_ = std::move(fabric);
+  state_.differs();
   startup_problem_.clear();
   connection_.reset();
 }
 
 std::optional<FabricError> Platform::keep_state_in(const std::string& path) {
-  if (!path.empty()) {
-    if (access(path.c_str(), F_OK) == 0 || errno != ENOENT) {
-      auto read = read_fabric_file(path);
-      if (auto* error = std::get_if<FabricError>(&read)) return std::move(*error);
-      install(std::get<Fabric>(std::move(read)));
-    } else if (auto error = problem_of_new_file(path)) {
-      return error;
-    }
-    connection_.reset();
-  }
-  state_path_ = path;
+  auto opened = StateStore::open(path);
+  if (auto* error = std::get_if<FabricError>(&opened)) return std::move(*error);
+  auto& [store, fabric] = std::get<StateStore::Opened>(opened);
+  if (fabric) install(std::move(*fabric));
+  if (!path.empty()) connection_.reset();
+  state_ = std::move(store);
   return std::nullopt;
 }
 
@@ -132,11 +127,9 @@ Outcome Platform::change(const Request& request) {
   Fabric changed = fabric_;
   Outcome outcome = answer(request, changed, clock_.now());
   if (outcome.status != status::kOk || changed == fabric_) return outcome;
-  if (!state_path_.empty()) {
-    if (auto error = save_fabric_file(changed, state_path_)) {
-      fprintf(stderr, "switch simulator: a change was not saved: %s\n", error->message.c_str());
-      return services::refuse(status::kStateNotSaved);
-    }
+  if (auto error = state_.save(request, changed)) {
+    fprintf(stderr, "switch simulator: a change was not saved: %s\n", error->message.c_str());
+    return services::refuse(status::kStateNotSaved);
   }
   fabric_ = std::move(changed);
   return outcome;

@@ -14,6 +14,7 @@
 
 #include <switch_platform/types.h>
 
+#include "simulator/client/state_store.h"
 #include "simulator/fabric/fabric.h"
 #include "simulator/fabric/fabric_file.h"
 #include "simulator/transport/faults.h"
@@ -129,7 +130,7 @@ class Platform {
   FaultPlan faults_;
   std::unique_ptr<Recording> recording_;
   std::unique_ptr<SwitchConnection> connection_;  // null: the fabric is this process's own
-  std::string state_path_;                        // empty: changes are not saved
+  StateStore state_;
   std::string startup_problem_;  // not empty: the environment cannot be used, nothing is answered
 
   int32_t next_queue_ = 1;

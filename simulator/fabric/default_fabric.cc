@@ -33,7 +33,7 @@ ZoneMember port_wwn_member(const char* last_bytes) {
 }
 
 // Two hosts, each in a zone of its own with the ports of one array, which an alias holds.
-Zoning make_zoning(const std::vector<Switch>& switches) {
+Zoning make_zoning() {
   using namespace std::string_literals;
   Zoning zoning;
   ZoneDatabase& full = zoning.full.change();
@@ -50,7 +50,6 @@ Zoning make_zoning(const std::vector<Switch>& switches) {
   full.add_zone(1, 1);
   full.add_zone(1, 2);
   zoning.active.change() = full.excerpt(1);
-  zoning.distributed = {{switches[1].wwn, zoning.full}, {switches[2].wwn, zoning.full}};
   return zoning;
 }
 
@@ -72,7 +71,7 @@ Fabric default_fabric() {
   first.principal_switch = fabric.switches[0].wwn;
   first.domains = {make_domain(fabric.switches[0], 97, 1), make_domain(fabric.switches[1], 98, 128),
                    make_domain(fabric.switches[2], 99, 128)};
-  first.zoning.change() = make_zoning(fabric.switches);
+  first.zoning.change() = make_zoning();
 
   Vsan second;
   second.number = 2;

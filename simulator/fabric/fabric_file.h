@@ -32,6 +32,10 @@ std::string write_fabric(const Fabric& fabric);
 // Replaces the file as a whole or not at all, also when the machine stops meanwhile.
 std::optional<FabricError> save_fabric_file(const Fabric& fabric, const std::string& path);
 
+// The bytes of a regular file, and a file's replacement as above.
+std::variant<std::string, FabricError> read_text_file(const std::string& path);
+std::optional<FabricError> save_text_file(std::string_view text, const std::string& path);
+
 // What stands against making a file where there is none yet: its folder is missing or not writable.
 std::optional<FabricError> problem_of_new_file(const std::string& path);
 

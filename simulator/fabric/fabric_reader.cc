@@ -276,12 +276,18 @@ ReadFabric parse_fabric(std::string_view text, std::string_view name) {
   }
 }
 
-ReadFabric read_fabric_file(const std::string& path) {
-  const auto bytes = read_bytes(path);
+std::variant<std::string, FabricError> read_text_file(const std::string& path) {
+  auto bytes = read_bytes(path);
   if (const int* error = std::get_if<int>(&bytes)) {
     return FabricError{path + ": " + (*error == EINVAL ? "not a regular file" : strerror(*error))};
   }
-  return parse_fabric(std::get<std::string>(bytes), path);
+  return std::get<std::string>(std::move(bytes));
+}
+
+ReadFabric read_fabric_file(const std::string& path) {
+  auto text = read_text_file(path);
+  if (auto* error = std::get_if<FabricError>(&text)) return std::move(*error);
+  return parse_fabric(std::get<std::string>(text), path);
 }
 
 }  // namespace switch_sim

@@ -157,7 +157,11 @@ std::string write_fabric(const Fabric& fabric) {
 }
 
 std::optional<FabricError> save_fabric_file(const Fabric& fabric, const std::string& path) {
-  if (replace_file(resolve(path), write_fabric(fabric))) return std::nullopt;
+  return save_text_file(write_fabric(fabric), path);
+}
+
+std::optional<FabricError> save_text_file(std::string_view text, const std::string& path) {
+  if (replace_file(resolve(path), text)) return std::nullopt;
   return FabricError{path + ": " + strerror(errno)};
 }
 

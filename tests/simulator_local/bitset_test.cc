@@ -52,6 +52,18 @@ TEST(Bitset, AnAnnouncedSizeAboveTheLargestIsTakenAsTheLargest) {
   EXPECT_EQ(0, bitset_is_bit_set(bitset.data(), 2048));
 }
 
+TEST(Bitset, TheZonesOfAZoneSetTakeUpTo10048Bits) {
+  std::vector<uint8_t> bitset(1260, 0);
+  bitset[2] = 0x27;
+  bitset[3] = 0x40;
+  bitset[4 + 8000 / 8 - 1] = 0x80;
+  bitset[1259] = 0x80;
+  EXPECT_EQ((std::vector<int>{7999, 10047}), bits_of(bitset.data()));
+  EXPECT_NE(0, bitset_is_bit_set(bitset.data(), 7999));
+  bitset[3] = 0x41;  // more than there is room for
+  EXPECT_EQ(-1, bitset_first_bit(bitset.data()));
+}
+
 TEST(Bitset, NothingIsSetInNull) {
   EXPECT_EQ(-1, bitset_first_bit(nullptr));
   EXPECT_EQ(-1, bitset_next_bit(nullptr, 0));

@@ -105,6 +105,27 @@ TEST(StatusText, EveryStatusHasItsText) {
   EXPECT_STREQ("No such system-information item", syserr2str(0x40490001));
 }
 
+TEST(StatusText, EveryResultOfTheZoneServerHasAText) {
+  EXPECT_STREQ("VSAN is not configured", syserr2str(0x40200001));
+  EXPECT_STREQ("No such zone set, zone or alias", syserr2str(0x40200002));
+  EXPECT_STREQ("No such member", syserr2str(0x40200003));
+  EXPECT_STREQ("Name is in use", syserr2str(0x40200004));
+  EXPECT_STREQ("Member is already present", syserr2str(0x40200005));
+  EXPECT_STREQ("Not a zoning name", syserr2str(0x40200006));
+  EXPECT_STREQ("Wrong kind of zoning object", syserr2str(0x40200007));
+  EXPECT_STREQ("Not a zone member", syserr2str(0x40200008));
+  EXPECT_STREQ("Zone set holds no zones", syserr2str(0x40200009));
+  EXPECT_STREQ("Too many zone sets", syserr2str(0x40200011));
+  EXPECT_STREQ("Too many zones", syserr2str(0x40200012));
+  EXPECT_STREQ("Too many zone aliases", syserr2str(0x40200013));
+  EXPECT_STREQ("Too many zone members", syserr2str(0x40200014));
+  EXPECT_STREQ("Too many members of one zone or alias", syserr2str(0x40200015));
+  EXPECT_STREQ("Zone set is already active", syserr2str(0x40200038));
+  EXPECT_STREQ("Zone set is not active", syserr2str(0x40200039));
+  EXPECT_STREQ("Zoning database is already distributed", syserr2str(0x40200079));
+  EXPECT_STREQ("No zone set to distribute", syserr2str(0x40200091));
+}
+
 TEST(StatusText, AnyOtherCodeIsShownAsANumber) {
   EXPECT_STREQ("Unknown status 0x1234", syserr2str(0x1234));
   EXPECT_STREQ("Unknown status 0xfffffffe", syserr2str(-2));
