@@ -177,7 +177,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         WrongZoning{with_zoning(R"("zone": [])"),
                     "f:6:1: unknown key \"zone\" (did you mean \"zones\"?)"},
-        WrongZoning{with_zoning(R"("default_policy": "denied")"),
+        WrongZoning{with_zoning(R"("default_policy": "denny")"),
                     "f:6:19: expected \"deny\" or \"permit\" (did you mean \"deny\"?)"},
         WrongZoning{with_zoning(R"("zones": 1)"), "f:6:10: expected a list of zones"},
         WrongZoning{with_zoning(R"("zones": [1])"), "f:6:11: expected a zone"},
@@ -191,7 +191,7 @@ INSTANTIATE_TEST_SUITE_P(
         WrongZoning{with_zoning(R"("zones": [{"name": "z"}, {"name": "z"}])"),
                     "f:6:35: another zone has this name"},
         WrongZoning{with_zoning(R"("zones": [{"name": "z", "id": 4}, {"name": "y", "id": 4}])"),
-                    "f:6:53: another zone has this id"},
+                    "f:6:55: another zone has this id"},
         WrongZoning{with_zoning(R"("zones": [{"name": "z", "id": 8001}])"),
                     "f:6:31: expected a whole number from 1 to 8000"},
         WrongZoning{with_zoning(R"("zones": [{"name": "z", "id": 0}])"),
@@ -318,7 +318,7 @@ TEST(ZoningFile, A20001stMemberIsRefusedWhereItStands) {
     }
     zones += "]}";
   }
-  EXPECT_EQ("f:17:28: the zones and aliases of a VSAN have at most 20000 members",
+  EXPECT_EQ("f:17:29: the zones and aliases of a VSAN have at most 20000 members",
             error_of(with_zoning("\"zones\": [\n" + zones + "]")));
 }
 
