@@ -28,23 +28,22 @@ DomainManager make_domain(const Switch& owner, uint8_t domain_id, uint8_t priori
   return made;
 }
 
-ZoneMember port_wwn_member(const char* last_bytes) {
-  return {0, 1, std::string("\x21\x00\x00\xE0\x8B", 5) + last_bytes};
+ZoneMember port_wwn_member(char last_byte) {
+  return {0, 1, std::string("\x21\x00\x00\x11\x22\x33\x44", 7) + last_byte};
 }
 
-// Two hosts, each in a zone of its own with the ports of one array, which an alias holds.
+// A host and a tape library, each in a zone of its own with the ports of two arrays, which an alias
 Zoning make_zoning() {
-  using namespace std::string_literals;
   Zoning zoning;
   ZoneDatabase& full = zoning.full.change();
-  full.create(ZoningKind::alias, "array1");
-  full.add_member(ZoningKind::alias, 1, {0, 1, "\x50\x06\x0E\x80\x00\xC2\x62\x00"s});
-  full.add_member(ZoningKind::alias, 1, {0, 1, "\x50\x06\x0E\x80\x00\xC2\x62\x10"s});
-  full.create(ZoningKind::zone, "host1_array1");
-  full.add_member(ZoningKind::zone, 1, port_wwn_member("\x05\x05\x04"));
+  full.create(ZoningKind::alias, "arrays");
+  full.add_member(ZoningKind::alias, 1, port_wwn_member(0x11));
+  full.add_member(ZoningKind::alias, 1, port_wwn_member(0x21));
+  full.create(ZoningKind::zone, "host_a_arrays");
+  full.add_member(ZoningKind::zone, 1, port_wwn_member(0x01));
   full.add_alias(1, 1);
-  full.create(ZoningKind::zone, "host2_array1");
-  full.add_member(ZoningKind::zone, 2, port_wwn_member("\x05\x17\x22"));
+  full.create(ZoningKind::zone, "backup");
+  full.add_member(ZoningKind::zone, 2, port_wwn_member(0x41));
   full.add_alias(2, 1);
   full.create(ZoningKind::zone_set, "production");
   full.add_zone(1, 1);

@@ -9,9 +9,10 @@
 namespace switch_sim {
 
 // `description` is a list such as "switches=8,ports=48,vsans=8,devices=200,seed=7"; what it leaves
-// out is 3 switches, no ports, 2 VSANs, no devices, seed 1, and no zoning
-// ("zones=8000,members=20000, aliases=2048" of each VSAN). The model has no ports and devices yet:
+// out is 3 switches, no ports, 2 VSANs, no devices, seed 1. The model has no ports and devices yet:
 // their numbers are tested and change nothing.
+//
+// "zones=8000,members=20000,aliases=2048" is the zoning of each VSAN; left out, there is none.
 ReadFabric generate_fabric(std::string_view description);
 
 }  // namespace switch_sim

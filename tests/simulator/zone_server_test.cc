@@ -190,7 +190,7 @@ Pattern first_zone() {
   return Pattern(872)
       .at(0, host(1))
       .at(4, host(1))
-      .text(16, "host1_array1")
+      .text(16, "host_a_arrays")
       .at(84, "0000080001")    // of 2048 bits: member 1
       .at(344, "0000080001");  // of 2048 bits: alias 1
 }
@@ -214,16 +214,16 @@ TEST_F(ZoneServer, AZoneSetIsFoundById) {
 
 TEST_F(ZoneServer, AnAliasIsFoundById) {
   EXPECT_EQ(
-      Pattern(344).at(0, host(1)).at(4, host(1)).text(16, "array1").at(84, "0000080003").bytes(),
+      Pattern(344).at(0, host(1)).at(4, host(1)).text(16, "arrays").at(84, "0000080003").bytes(),
       alias(1).bytes);
 }
 
 TEST_F(ZoneServer, AMemberIsFoundByParentAndId) {
   EXPECT_EQ(
-      Pattern(32).at(0, host(1)).at(4, host(1)).at(20, "01").at(24, "210000e08b050504").bytes(),
+      Pattern(32).at(0, host(1)).at(4, host(1)).at(20, "01").at(24, "2100001122334401").bytes(),
       member(kParentZone, 1, 1).bytes);
   EXPECT_EQ(
-      Pattern(32).at(0, host(1)).at(4, host(2)).at(20, "01").at(24, "50060e8000c26210").bytes(),
+      Pattern(32).at(0, host(1)).at(4, host(2)).at(20, "01").at(24, "2100001122334421").bytes(),
       member(kParentAlias, 1, 2).bytes);
 }
 
@@ -262,8 +262,8 @@ TEST_F(ZoneServer, ANotExactReadGoesToTheNextId) {
 TEST_F(ZoneServer, AllObjectsOfAVsanComeTogetherByRisingIds) {
   const Entries zones = all_zones();
   ASSERT_EQ(2, zones.count);
-  EXPECT_STREQ("host1_array1", reinterpret_cast<const char*>(zones.bytes.data() + 16));
-  EXPECT_STREQ("host2_array1", reinterpret_cast<const char*>(zones.bytes.data() + 872 + 16));
+  EXPECT_STREQ("host_a_arrays", reinterpret_cast<const char*>(zones.bytes.data() + 16));
+  EXPECT_STREQ("backup", reinterpret_cast<const char*>(zones.bytes.data() + 872 + 16));
   int32_t count = 32;
   void* reply = nullptr;
   EXPECT_EQ(0, zs_cmi_get_all_zone_sets_in_vsan(q, 1, context, 0, 0, &count, &reply));
@@ -317,21 +317,21 @@ TEST_F(ZoneServer, TheAttributesOfAZoneAreTold) {
 }
 
 TEST_F(ZoneServer, NamesAndIdsAreLookedUp) {
-  EXPECT_EQ(2U, id_of(kZone, "host2_array1"));
+  EXPECT_EQ(2U, id_of(kZone, "backup"));
   EXPECT_EQ(1U, id_of(kZoneSet, "production"));
-  EXPECT_EQ(1U, id_of(kAlias, "array1", kActive));
-  EXPECT_EQ("host2_array1", name_of(kZone, 2));
+  EXPECT_EQ(1U, id_of(kAlias, "arrays", kActive));
+  EXPECT_EQ("backup", name_of(kZone, 2));
   EXPECT_EQ("production", name_of(kZoneSet, 1, kActive));
-  EXPECT_EQ("array1", name_of(kAlias, 1));
+  EXPECT_EQ("arrays", name_of(kAlias, 1));
 }
 
 TEST_F(ZoneServer, AFailedLookUpStoresNothing) {
   uint32_t id = 77;
-  EXPECT_EQ(kNoSuchObject, zs_cmi_get_id_for_name(q, 1, context, 0, 0, kZone, "array1", &id));
+  EXPECT_EQ(kNoSuchObject, zs_cmi_get_id_for_name(q, 1, context, 0, 0, kZone, "arrays", &id));
   EXPECT_EQ(kNoSuchObject, zs_cmi_get_id_for_name(q, 1, context, 0, 0, kZone, nullptr, &id));
-  EXPECT_EQ(kNoSuchVsan, zs_cmi_get_id_for_name(q, 9, context, 0, 0, kZone, "array1", &id));
-  EXPECT_EQ(kBadKind, zs_cmi_get_id_for_name(q, 1, context, 0, 0, 3, "array1", &id));
-  EXPECT_EQ(kBadValue, zs_cmi_get_id_for_name(q, 1, context, 0, 0, kZone, "array1", nullptr));
+  EXPECT_EQ(kNoSuchVsan, zs_cmi_get_id_for_name(q, 9, context, 0, 0, kZone, "arrays", &id));
+  EXPECT_EQ(kBadKind, zs_cmi_get_id_for_name(q, 1, context, 0, 0, 3, "arrays", &id));
+  EXPECT_EQ(kBadValue, zs_cmi_get_id_for_name(q, 1, context, 0, 0, kZone, "arrays", nullptr));
   EXPECT_EQ(77U, id);
   char name[256] = "kept";
   EXPECT_EQ(kNoSuchObject, zs_cmi_get_name_for_id(q, 1, context, 0, 0, kZone, 3, name));
@@ -344,7 +344,7 @@ TEST_F(ZoneServer, AFailedLookUpStoresNothing) {
 TEST_F(ZoneServer, ACreatedObjectHasTheLowestFreeId) {
   EXPECT_EQ(0, create(kZone, "third"));
   EXPECT_EQ(3U, id_of(kZone, "third"));
-  EXPECT_EQ(0, destroy(kZone, "host1_array1"));
+  EXPECT_EQ(0, destroy(kZone, "host_a_arrays"));
   EXPECT_EQ(0, create(kZone, "fourth"));
   EXPECT_EQ(1U, id_of(kZone, "fourth"));
   EXPECT_EQ(0, create(kZoneSet, "test"));
@@ -355,18 +355,18 @@ TEST_F(ZoneServer, ACreatedObjectHasTheLowestFreeId) {
 
 TEST_F(ZoneServer, AChangeOfTheFullDatabaseLeavesTheActiveOneAlone) {
   EXPECT_EQ(0, create(kZone, "third"));
-  EXPECT_EQ(0, destroy(kZone, "host1_array1"));
+  EXPECT_EQ(0, destroy(kZone, "host_a_arrays"));
   EXPECT_EQ(2, all_zones(kActive).count);
   EXPECT_EQ(first_zone().bytes(), zone(1, kActive).bytes);
 }
 
 TEST_F(ZoneServer, ANameIsUniqueAmongTheObjectsOfAKind) {
-  EXPECT_EQ(kObjectExists, create(kZone, "host1_array1"));
+  EXPECT_EQ(kObjectExists, create(kZone, "host_a_arrays"));
   EXPECT_EQ(kObjectExists, create(kZoneSet, "production"));
-  EXPECT_EQ(kObjectExists, create(kAlias, "array1"));
-  EXPECT_EQ(0, create(kZone, "array1"));
-  EXPECT_EQ(0, create(kZone, "HOST1_array1"));
-  EXPECT_EQ(0, create(kZone, "host1_array1", 2));
+  EXPECT_EQ(kObjectExists, create(kAlias, "arrays"));
+  EXPECT_EQ(0, create(kZone, "arrays"));
+  EXPECT_EQ(0, create(kZone, "HOST_A_arrays"));
+  EXPECT_EQ(0, create(kZone, "host_a_arrays", 2));
 }
 
 TEST_F(ZoneServer, AWrongNameIsRefused) {
@@ -385,17 +385,17 @@ TEST_F(ZoneServer, AWrongKindOrVsanIsRefused) {
   EXPECT_EQ(kBadKind, create(-1, "z"));
   EXPECT_EQ(kNoSuchVsan, create(kZone, "z", 9));
   EXPECT_EQ(kNoSuchObject, destroy(kZone, "z"));
-  EXPECT_EQ(kNoSuchVsan, destroy(kZone, "host1_array1", 9));
+  EXPECT_EQ(kNoSuchVsan, destroy(kZone, "host_a_arrays", 9));
 }
 
 TEST_F(ZoneServer, ADeletedZoneLeavesItsZoneSets) {
-  EXPECT_EQ(0, destroy(kZone, "host1_array1"));
+  EXPECT_EQ(0, destroy(kZone, "host_a_arrays"));
   EXPECT_EQ(kNoSuchObject, zone(1).status);
   EXPECT_EQ(from_hex("00001f4002000000"), slice(zone_set(1).bytes, 84, 8));
 }
 
 TEST_F(ZoneServer, ADeletedAliasLeavesItsZones) {
-  EXPECT_EQ(0, destroy(kAlias, "array1"));
+  EXPECT_EQ(0, destroy(kAlias, "arrays"));
   for (const uint32_t id : {1U, 2U})
     EXPECT_EQ(0, zone(id).bytes.at(348)) << id;
   EXPECT_EQ(1, zone(1, kActive).bytes.at(348));
@@ -409,30 +409,30 @@ TEST_F(ZoneServer, ADeletedZoneSetLeavesItsZones) {
 
 TEST_F(ZoneServer, AZoneIsPutIntoAZoneSetAndTakenOut) {
   ASSERT_EQ(0, create(kZoneSet, "test"));
-  EXPECT_EQ(0, zone_in_set(1, "test", "host2_array1"));
+  EXPECT_EQ(0, zone_in_set(1, "test", "backup"));
   EXPECT_EQ(0x02, zone_set(2).bytes.at(88));
-  EXPECT_EQ(kMemberExists, zone_in_set(1, "test", "host2_array1"));
-  EXPECT_EQ(0, zone_in_set(0, "test", "host2_array1"));
+  EXPECT_EQ(kMemberExists, zone_in_set(1, "test", "backup"));
+  EXPECT_EQ(0, zone_in_set(0, "test", "backup"));
   EXPECT_EQ(0x00, zone_set(2).bytes.at(88));
-  EXPECT_EQ(kNoSuchMember, zone_in_set(0, "test", "host2_array1"));
+  EXPECT_EQ(kNoSuchMember, zone_in_set(0, "test", "backup"));
   EXPECT_EQ(kNoSuchObject, zone_in_set(1, "test", "none"));
-  EXPECT_EQ(kNoSuchObject, zone_in_set(1, "none", "host2_array1"));
+  EXPECT_EQ(kNoSuchObject, zone_in_set(1, "none", "backup"));
   EXPECT_EQ(kNoSuchObject, zone_in_set(1, nullptr, nullptr));
-  EXPECT_EQ(kNoSuchVsan, zone_in_set(1, "test", "host2_array1", 9));
+  EXPECT_EQ(kNoSuchVsan, zone_in_set(1, "test", "backup", 9));
 }
 
 TEST_F(ZoneServer, AnAliasIsPutIntoAZoneAndTakenOut) {
   ASSERT_EQ(0, create(kZone, "third"));
-  EXPECT_EQ(0, alias_in_zone(7, "third", "array1"));
+  EXPECT_EQ(0, alias_in_zone(7, "third", "arrays"));
   EXPECT_EQ(0x01, zone(3).bytes.at(348));
-  EXPECT_EQ(kMemberExists, alias_in_zone(1, "third", "array1"));
-  EXPECT_EQ(0, alias_in_zone(0, "third", "array1"));
+  EXPECT_EQ(kMemberExists, alias_in_zone(1, "third", "arrays"));
+  EXPECT_EQ(0, alias_in_zone(0, "third", "arrays"));
   EXPECT_EQ(0x00, zone(3).bytes.at(348));
-  EXPECT_EQ(kNoSuchMember, alias_in_zone(0, "third", "array1"));
-  EXPECT_EQ(kNoSuchObject, alias_in_zone(1, "none", "array1"));
+  EXPECT_EQ(kNoSuchMember, alias_in_zone(0, "third", "arrays"));
+  EXPECT_EQ(kNoSuchObject, alias_in_zone(1, "none", "arrays"));
   EXPECT_EQ(kNoSuchObject, alias_in_zone(1, "third", "none"));
-  EXPECT_EQ(kNoSuchObject, alias_in_zone(1, "array1", "array1"));  // the first is a zone
-  EXPECT_EQ(kNoSuchVsan, alias_in_zone(1, "third", "array1", 9));
+  EXPECT_EQ(kNoSuchObject, alias_in_zone(1, "arrays", "arrays"));  // the first is a zone
+  EXPECT_EQ(kNoSuchVsan, alias_in_zone(1, "third", "arrays", 9));
 }
 
 struct MemberCase {
@@ -453,9 +453,9 @@ class ZoneServerMember : public ZoneServer, public testing::WithParamInterface<M
 TEST_P(ZoneServerMember, IsAddedReadAndRemoved) {
   const auto& [type, value, length, lun, width, text] = GetParam();
   const auto sent = buffer(static_cast<uint8_t>(type), value, 24);
-  ASSERT_EQ(0, zone_member(1, "host1_array1", sent));
-  EXPECT_EQ(kMemberExists, zone_member(1, "host1_array1", sent));
-  ASSERT_EQ(0, alias_member(1, "array1", sent));
+  ASSERT_EQ(0, zone_member(1, "host_a_arrays", sent));
+  EXPECT_EQ(kMemberExists, zone_member(1, "host_a_arrays", sent));
+  ASSERT_EQ(0, alias_member(1, "arrays", sent));
 
   const Entries entry = member(kParentZone, 1, 2, 24 + width);
   auto expected = Pattern(24 + width).at(0, host(1)).at(4, host(2)).bytes();
@@ -481,9 +481,9 @@ TEST_P(ZoneServerMember, IsAddedReadAndRemoved) {
   ASSERT_EQ(std::nullopt, control::install_text(control::fabric_text(), "written"));
   EXPECT_EQ(kept, control::fabric());
 
-  EXPECT_EQ(0, zone_member(0, "host1_array1", sent));
-  EXPECT_EQ(kNoSuchMember, zone_member(0, "host1_array1", sent));
-  EXPECT_EQ(0, alias_member(0, "array1", sent));
+  EXPECT_EQ(0, zone_member(0, "host_a_arrays", sent));
+  EXPECT_EQ(kNoSuchMember, zone_member(0, "host_a_arrays", sent));
+  EXPECT_EQ(0, alias_member(0, "arrays", sent));
   EXPECT_EQ(kNoSuchMember, member(kParentZone, 1, 2).status);
 }
 
@@ -536,10 +536,10 @@ TEST_F(ZoneServer, AValueThatItsTypeCannotHaveIsRefused) {
       buffer(234, host(2) + "20010db8000000000000000000000001" + host(129)),
   };
   for (const auto& value : wrong) {
-    EXPECT_EQ(kBadMember, zone_member(1, "host1_array1", value)) << int{value[0]};
-    EXPECT_EQ(kBadMember, alias_member(1, "array1", value)) << int{value[0]};
+    EXPECT_EQ(kBadMember, zone_member(1, "host_a_arrays", value)) << int{value[0]};
+    EXPECT_EQ(kBadMember, alias_member(1, "arrays", value)) << int{value[0]};
   }
-  EXPECT_EQ(kBadMember, zs_cmi_add_zone_member(q, 1, 1, "host1_array1", -1, nullptr, nullptr,
+  EXPECT_EQ(kBadMember, zs_cmi_add_zone_member(q, 1, 1, "host_a_arrays", -1, nullptr, nullptr,
                                                nullptr, context));
 }
 
@@ -550,10 +550,10 @@ TEST_F(ZoneServer, ATextHasRoomForItsNul) {
     std::fill_n(value.begin() + 4, length, 'x');
     return value;
   };
-  EXPECT_EQ(0, zone_member(1, "host1_array1", of_length(4, 63)));
-  EXPECT_EQ(kBadMember, zone_member(1, "host1_array1", of_length(4, 64)));
-  EXPECT_EQ(0, zone_member(1, "host1_array1", of_length(230, 255)));
-  EXPECT_EQ(kBadMember, zone_member(1, "host1_array1", of_length(230, 256)));
+  EXPECT_EQ(0, zone_member(1, "host_a_arrays", of_length(4, 63)));
+  EXPECT_EQ(kBadMember, zone_member(1, "host_a_arrays", of_length(4, 64)));
+  EXPECT_EQ(0, zone_member(1, "host_a_arrays", of_length(230, 255)));
+  EXPECT_EQ(kBadMember, zone_member(1, "host_a_arrays", of_length(230, 256)));
   EXPECT_EQ(0, member(kParentZone, 1, 3, 280).bytes.at(279));
 }
 
@@ -561,18 +561,18 @@ TEST_F(ZoneServer, AMemberOfAnUnknownParentIsRefused) {
   const auto value = buffer(1, "2100001b32010203");
   EXPECT_EQ(kNoSuchObject, zone_member(1, "none", value));
   EXPECT_EQ(kNoSuchObject, zone_member(1, nullptr, value));
-  EXPECT_EQ(kNoSuchObject, alias_member(1, "host1_array1", value));
-  EXPECT_EQ(kNoSuchVsan, zone_member(1, "host1_array1", value, 9));
+  EXPECT_EQ(kNoSuchObject, alias_member(1, "host_a_arrays", value));
+  EXPECT_EQ(kNoSuchVsan, zone_member(1, "host_a_arrays", value, 9));
 }
 
 TEST_F(ZoneServer, AFreedMemberIdIsGivenAgain) {
   const auto first = buffer(1, "2100001b32010201"), second = buffer(1, "2100001b32010202");
-  ASSERT_EQ(0, zone_member(1, "host1_array1", first));
-  ASSERT_EQ(0, zone_member(1, "host1_array1", second));
+  ASSERT_EQ(0, zone_member(1, "host_a_arrays", first));
+  ASSERT_EQ(0, zone_member(1, "host_a_arrays", second));
   EXPECT_EQ(0x07, zone(1).bytes.at(88));
-  ASSERT_EQ(0, zone_member(0, "host1_array1", first));
+  ASSERT_EQ(0, zone_member(0, "host_a_arrays", first));
   EXPECT_EQ(0x05, zone(1).bytes.at(88));
-  ASSERT_EQ(0, zone_member(1, "host1_array1", buffer(3, "00610203")));
+  ASSERT_EQ(0, zone_member(1, "host_a_arrays", buffer(3, "00610203")));
   EXPECT_EQ(3, member(kParentZone, 1, 2, 28).bytes.at(20));
 }
 
@@ -583,11 +583,11 @@ TEST_F(ZoneServer, AParentHoldsAtMost2048Members) {
     return buffer(3, text);
   };
   for (unsigned i = 1; i <= 2047; ++i)
-    ASSERT_EQ(0, zone_member(1, "host1_array1", value(i)));
-  EXPECT_EQ(kTooManyMembersOfParent, zone_member(1, "host1_array1", value(5000)));
+    ASSERT_EQ(0, zone_member(1, "host_a_arrays", value(i)));
+  EXPECT_EQ(kTooManyMembersOfParent, zone_member(1, "host_a_arrays", value(5000)));
   EXPECT_EQ(0xFF, zone(1).bytes.at(84 + 4 + 255));
-  EXPECT_EQ(0, zone_member(0, "host1_array1", value(7)));
-  EXPECT_EQ(0, zone_member(1, "host1_array1", value(5000)));
+  EXPECT_EQ(0, zone_member(0, "host_a_arrays", value(7)));
+  EXPECT_EQ(0, zone_member(1, "host_a_arrays", value(5000)));
 }
 
 TEST_F(ZoneServer, AVsanHoldsAtMost20000Members) {
@@ -654,7 +654,7 @@ TEST_F(ZoneServer, AnActivatedZoneSetReplacesTheActiveOne) {
 
 TEST_F(ZoneServer, AnActiveZoneSetIsActivatedAgainOnlyWhenItChanged) {
   EXPECT_EQ(kAlreadyActive, activate(1, "production"));
-  ASSERT_EQ(0, zone_member(1, "host1_array1", buffer(3, "00610203")));
+  ASSERT_EQ(0, zone_member(1, "host_a_arrays", buffer(3, "00610203")));
   EXPECT_EQ(kNoSuchMember, member(kParentZone, 1, 2, 28, kActive).status);
   EXPECT_EQ(0, activate(1, "production"));
   EXPECT_EQ(1, member(kParentZone, 1, 2, 28, kActive).count);
@@ -768,9 +768,9 @@ TEST_F(ZoneServer, TheDefaultPolicyIsRead) {
 
 TEST_F(ZoneServer, ARefusedChangeLeavesTheFabricAsItWas) {
   const auto before = control::fabric();
-  create(kZone, "host1_array1");
-  zone_in_set(1, "production", "host1_array1");
-  zone_member(1, "host1_array1", buffer(1, "210000e08b050504"));
+  create(kZone, "host_a_arrays");
+  zone_in_set(1, "production", "host_a_arrays");
+  zone_member(1, "host_a_arrays", buffer(1, "2100001122334401"));
   activate(1, "production");
   distribute(2);
   EXPECT_EQ(before, control::fabric());
@@ -817,7 +817,7 @@ TEST_F(ZoneServer, AShortReplyIsRefused) {
   char name[256] = "kept";
   void* policies = nullptr;
   cut_to(Kind::short_reply, 3);
-  EXPECT_EQ(kBadLength, zs_cmi_get_id_for_name(q, 1, context, 0, 0, kZone, "host1_array1", &id));
+  EXPECT_EQ(kBadLength, zs_cmi_get_id_for_name(q, 1, context, 0, 0, kZone, "host_a_arrays", &id));
   EXPECT_EQ(kBadLength, zs_cmi_get_all_policies(q, 1, 1, context, 0, &policies));
   cut_to(Kind::short_reply, 0);
   EXPECT_EQ(kBadLength, zone(1).status);
