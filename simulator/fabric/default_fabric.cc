@@ -32,7 +32,8 @@ ZoneMember port_wwn_member(char last_byte) {
   return {0, 1, std::string("\x21\x00\x00\x11\x22\x33\x44", 7) + last_byte};
 }
 
-// A host and a tape library, each in a zone of its own with the ports of two arrays, which an alias
+// A host and a tape library, each in a zone of its own with the ports of two arrays; an alias holds
+// these.
 Zoning make_zoning() {
   Zoning zoning;
   ZoneDatabase& full = zoning.full.change();
