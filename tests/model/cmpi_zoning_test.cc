@@ -44,10 +44,7 @@ class CmpiZoning : public testing::Test {
     script.expect(get(149).sap(15).sends(Record(2632).be32(520, 10)))
         .replies(Record(2632).be32(520, 10).be32(528, 2).be32(552, 2));
     script.expect(get(264).sap(14).sends(Record(1152).be32(0, 10).be32(4, 1)))
-        .replies(Record(1152)
-                     .be32(0, 10)
-                     .byte(334, 1)
-                     .put(22, hex("20 0a 00 0d ec 0a 1b 2d")));
+        .replies(Record(1152).be32(0, 10).byte(334, 1).put(22, hex("20 0a 00 0d ec 0a 1b 2d")));
   }
   CMPIObjectPath* service_path() {
     return zone_service_fill_reference("VEXOR_ZoneService", kNamespace, 10, broker_);
@@ -135,8 +132,8 @@ TEST_F(CmpiZoning, AnAliasTellsItsNameTwiceAndReadsItsOwnActiveFlag) {
 }
 
 TEST_F(CmpiZoning, AMemberTellsItsIdAndItsType) {
-  ASSERT_NE(zone_member_fill_reference("VEXOR_ZoneMemberSettingData", kNamespace,
-                                       "10^3^00610203^0", broker_),
+  ASSERT_NE(zone_member_fill_reference("VEXOR_ZoneMemberSettingData", kNamespace, "10^3^00610203^0",
+                                       broker_),
             nullptr);
   ASSERT_NE(zone_member_build_instance("VEXOR_ZoneMemberSettingData", kNamespace, &member_, nullptr,
                                        broker_),
@@ -164,12 +161,12 @@ TEST_F(CmpiZoning, OnlyTheFlagOneIsActive) {
                 zone_set_build_instance("VEXOR_ZoneSet", kNamespace, &zone_set_, nullptr, broker_),
                 "Active"),
             "boolean false");
-  EXPECT_EQ(broker_.property(zone_build_instance("VEXOR_Zone", kNamespace, &zone_, nullptr, broker_),
-                             "Active"),
+  EXPECT_EQ(broker_.property(
+                zone_build_instance("VEXOR_Zone", kNamespace, &zone_, nullptr, broker_), "Active"),
             "boolean false");
   zone_.active = 1;
-  EXPECT_EQ(broker_.property(zone_build_instance("VEXOR_Zone", kNamespace, &zone_, nullptr, broker_),
-                             "Active"),
+  EXPECT_EQ(broker_.property(
+                zone_build_instance("VEXOR_Zone", kNamespace, &zone_, nullptr, broker_), "Active"),
             "boolean true");
   EXPECT_EQ(broker_.property(
                 zone_alias_build_instance("VEXOR_ZoneAlias", kNamespace, &alias_, nullptr, broker_),
@@ -257,8 +254,7 @@ TEST_F(CmpiZoning, WithoutTheVsanManagerOrTheDomainManagerTheSystemIsNamedByTheN
     EXPECT_EQ(broker_.key_text(service_path(), "SystemName"), "10");
   }
   Script script;
-  script.expect(get(149).sap(15).any_request().length(2632))
-      .replies(Record(2632).be32(520, 10));
+  script.expect(get(149).sap(15).any_request().length(2632)).replies(Record(2632).be32(520, 10));
   script.expect(get(264).sap(14).any_request().length(1152)).times_out();
   EXPECT_EQ(broker_.key_text(service_path(), "SystemName"), "10");
 }
@@ -330,19 +326,18 @@ void expect_association(const Association& a, StdioCapture& out) {
 }
 
 TEST_F(CmpiZoning, AZoneSetCollectsZones) {
-  expect_association(
-      {[](auto b) {
-         return zmoc_fill_reference_zoneSetZone("VEXOR_ZoneMemberOfCollection", kNamespace,
-                                                "10_7_1", "10_12_1", b);
-       },
-       [](auto b) {
-         return zmoc_build_instance_zoneSetZone("VEXOR_ZoneMemberOfCollection", kNamespace,
-                                                "10_7_1", "10_12_1", b);
-       },
-       kZoneSetEntry + zoning_path("path1", "VEXOR_ZoneSet", "10_7_1") +
-           zoning_path("path2", "VEXOR_Zone", "10_12_1"),
-       "VEXOR_ZoneMemberOfCollection", "Collection", "Member"},
-      out_);
+  expect_association({[](auto b) {
+                        return zmoc_fill_reference_zoneSetZone("VEXOR_ZoneMemberOfCollection",
+                                                               kNamespace, "10_7_1", "10_12_1", b);
+                      },
+                      [](auto b) {
+                        return zmoc_build_instance_zoneSetZone("VEXOR_ZoneMemberOfCollection",
+                                                               kNamespace, "10_7_1", "10_12_1", b);
+                      },
+                      kZoneSetEntry + zoning_path("path1", "VEXOR_ZoneSet", "10_7_1") +
+                          zoning_path("path2", "VEXOR_Zone", "10_12_1"),
+                      "VEXOR_ZoneMemberOfCollection", "Collection", "Member"},
+                     out_);
 }
 
 TEST_F(CmpiZoning, AZoneCollectsAliases) {
@@ -360,50 +355,47 @@ TEST_F(CmpiZoning, AZoneCollectsAliases) {
 }
 
 TEST_F(CmpiZoning, AZoneHasMembers) {
-  expect_association(
-      {[this](auto b) {
-         return esd_fill_reference_zoneZoneMember("VEXOR_ZoneElementSettingData", kNamespace,
-                                                  &zone_, &member_, b);
-       },
-       [this](auto b) {
-         return esd_build_instance_zoneZoneMember("VEXOR_ZoneElementSettingData", kNamespace,
-                                                  &zone_, &member_, b);
-       },
-       zoning_path("path1", "VEXOR_Zone", "10_12_0") +
-           zoning_path("path2", "VEXOR_ZoneMemberSettingData", "10^3^00610203^0"),
-       "VEXOR_ZoneElementSettingData", "ManagedElement", "SettingData"},
-      out_);
+  expect_association({[this](auto b) {
+                        return esd_fill_reference_zoneZoneMember("VEXOR_ZoneElementSettingData",
+                                                                 kNamespace, &zone_, &member_, b);
+                      },
+                      [this](auto b) {
+                        return esd_build_instance_zoneZoneMember("VEXOR_ZoneElementSettingData",
+                                                                 kNamespace, &zone_, &member_, b);
+                      },
+                      zoning_path("path1", "VEXOR_Zone", "10_12_0") +
+                          zoning_path("path2", "VEXOR_ZoneMemberSettingData", "10^3^00610203^0"),
+                      "VEXOR_ZoneElementSettingData", "ManagedElement", "SettingData"},
+                     out_);
 }
 
 TEST_F(CmpiZoning, AnAliasHasMembers) {
-  expect_association(
-      {[this](auto b) {
-         return esd_fill_reference_zoneAliasZoneMember("VEXOR_ZoneElementSettingData", kNamespace,
-                                                       &alias_, &member_, b);
-       },
-       [this](auto b) {
-         return esd_build_instance_zoneAliasZoneMember("VEXOR_ZoneElementSettingData", kNamespace,
-                                                       &alias_, &member_, b);
-       },
-       zoning_path("path1", "VEXOR_ZoneAlias", "10_4_1") +
-           zoning_path("path2", "VEXOR_ZoneMemberSettingData", "10^3^00610203^0"),
-       "VEXOR_ZoneElementSettingData", "ManagedElement", "SettingData"},
-      out_);
+  expect_association({[this](auto b) {
+                        return esd_fill_reference_zoneAliasZoneMember(
+                            "VEXOR_ZoneElementSettingData", kNamespace, &alias_, &member_, b);
+                      },
+                      [this](auto b) {
+                        return esd_build_instance_zoneAliasZoneMember(
+                            "VEXOR_ZoneElementSettingData", kNamespace, &alias_, &member_, b);
+                      },
+                      zoning_path("path1", "VEXOR_ZoneAlias", "10_4_1") +
+                          zoning_path("path2", "VEXOR_ZoneMemberSettingData", "10^3^00610203^0"),
+                      "VEXOR_ZoneElementSettingData", "ManagedElement", "SettingData"},
+                     out_);
 }
 
 TEST_F(CmpiZoning, AVsanHostsItsConnectivityCollection) {
-  expect_association(
-      {[this](auto b) {
-         return hosted_collection_fill_reference("VEXOR_HostedCollection", kNamespace, &vsan_,
-                                                 &conf_, 10, b);
-       },
-       [this](auto b) {
-         return hosted_collection_build_instance("VEXOR_HostedCollection", kNamespace, &vsan_,
-                                                 &conf_, 10, b);
-       },
-       kVsanPath + zoning_path("path2", "VEXOR_ConnectivityCollection", "10"),
-       "VEXOR_HostedCollection", "Antecedent", "Dependent"},
-      out_);
+  expect_association({[this](auto b) {
+                        return hosted_collection_fill_reference("VEXOR_HostedCollection",
+                                                                kNamespace, &vsan_, &conf_, 10, b);
+                      },
+                      [this](auto b) {
+                        return hosted_collection_build_instance("VEXOR_HostedCollection",
+                                                                kNamespace, &vsan_, &conf_, 10, b);
+                      },
+                      kVsanPath + zoning_path("path2", "VEXOR_ConnectivityCollection", "10"),
+                      "VEXOR_HostedCollection", "Antecedent", "Dependent"},
+                     out_);
 }
 
 TEST_F(CmpiZoning, AVsanHostsZoneSetsAndTheInstanceSaysItsEnd) {
@@ -423,33 +415,31 @@ TEST_F(CmpiZoning, AVsanHostsZoneSetsAndTheInstanceSaysItsEnd) {
 }
 
 TEST_F(CmpiZoning, AVsanHostsZones) {
-  expect_association(
-      {[this](auto b) {
-         return hosted_collection_fill_reference_zone("VEXOR_ZoneHostedCollection", kNamespace,
-                                                      &vsan_, &conf_, &zone_, b);
-       },
-       [this](auto b) {
-         return hosted_collection_build_instance_zone("VEXOR_ZoneHostedCollection", kNamespace,
-                                                      &vsan_, &conf_, &zone_, b);
-       },
-       kVsanPath + zoning_path("path2", "VEXOR_Zone", "10_12_0"), "VEXOR_ZoneHostedCollection",
-       "Antecedent", "Dependent"},
-      out_);
+  expect_association({[this](auto b) {
+                        return hosted_collection_fill_reference_zone(
+                            "VEXOR_ZoneHostedCollection", kNamespace, &vsan_, &conf_, &zone_, b);
+                      },
+                      [this](auto b) {
+                        return hosted_collection_build_instance_zone(
+                            "VEXOR_ZoneHostedCollection", kNamespace, &vsan_, &conf_, &zone_, b);
+                      },
+                      kVsanPath + zoning_path("path2", "VEXOR_Zone", "10_12_0"),
+                      "VEXOR_ZoneHostedCollection", "Antecedent", "Dependent"},
+                     out_);
 }
 
 TEST_F(CmpiZoning, AVsanHostsAliases) {
-  expect_association(
-      {[this](auto b) {
-         return hosted_collection_fill_reference_zalias("VEXOR_ZoneHostedCollection", kNamespace,
-                                                        &vsan_, &conf_, &alias_, b);
-       },
-       [this](auto b) {
-         return hosted_collection_build_instance_zalias("VEXOR_ZoneHostedCollection", kNamespace,
-                                                        &vsan_, &conf_, &alias_, b);
-       },
-       kVsanPath + zoning_path("path2", "VEXOR_ZoneAlias", "10_4_1"), "VEXOR_ZoneHostedCollection",
-       "Antecedent", "Dependent"},
-      out_);
+  expect_association({[this](auto b) {
+                        return hosted_collection_fill_reference_zalias(
+                            "VEXOR_ZoneHostedCollection", kNamespace, &vsan_, &conf_, &alias_, b);
+                      },
+                      [this](auto b) {
+                        return hosted_collection_build_instance_zalias(
+                            "VEXOR_ZoneHostedCollection", kNamespace, &vsan_, &conf_, &alias_, b);
+                      },
+                      kVsanPath + zoning_path("path2", "VEXOR_ZoneAlias", "10_4_1"),
+                      "VEXOR_ZoneHostedCollection", "Antecedent", "Dependent"},
+                     out_);
 }
 
 TEST_F(CmpiZoning, AVsanHostsItsZoneService) {
@@ -463,15 +453,14 @@ TEST_F(CmpiZoning, AVsanHostsItsZoneService) {
        [this](auto b) {
          return hosted_service_build_instance("VEXOR_HostedService", kNamespace, &vsan_, &conf_, b);
        },
-       std::string(kVsanPath) +
-           "newObjectPath(root/cimv2, VEXOR_ZoneService) -> path2\n"
-           "setHostname(path2, switch-1)\n"
-           " vsan 10 dm enabled is 1\n"
-           " vsan wwn is  200A000DEC0A1B2D \n"
-           "addKey(path2, Name, chars \"10\")\n"
-           "addKey(path2, SystemName, chars \"200A000DEC0A1B2D\")\n"
-           "addKey(path2, SystemCreationClassName, chars \"VEXOR_Vsan\")\n"
-           "addKey(path2, CreationClassName, chars \"VEXOR_ZoneService\")\n",
+       std::string(kVsanPath) + "newObjectPath(root/cimv2, VEXOR_ZoneService) -> path2\n"
+                                "setHostname(path2, switch-1)\n"
+                                " vsan 10 dm enabled is 1\n"
+                                " vsan wwn is  200A000DEC0A1B2D \n"
+                                "addKey(path2, Name, chars \"10\")\n"
+                                "addKey(path2, SystemName, chars \"200A000DEC0A1B2D\")\n"
+                                "addKey(path2, SystemCreationClassName, chars \"VEXOR_Vsan\")\n"
+                                "addKey(path2, CreationClassName, chars \"VEXOR_ZoneService\")\n",
        "VEXOR_HostedService", "Antecedent", "Dependent"},
       out_);
 }
@@ -479,8 +468,7 @@ TEST_F(CmpiZoning, AVsanHostsItsZoneService) {
 TEST_F(CmpiZoning, CollectionsAndHostsOfGivenReferences) {
   CMPIObjectPath* one = zone_fill_reference("VEXOR_Zone", kNamespace, "10_12_0", broker_);
   CMPIObjectPath* two = zone_fill_reference("VEXOR_Zone", kNamespace, "10_13_0", broker_);
-  CMPIObjectPath* member =
-      zmoc_fill_reference_MemberCollection("C", kNamespace, one, two, broker_);
+  CMPIObjectPath* member = zmoc_fill_reference_MemberCollection("C", kNamespace, one, two, broker_);
   EXPECT_EQ(broker_.class_name(member), "C");
   EXPECT_EQ(broker_.key_reference(member, "Collection"), one);
   EXPECT_EQ(broker_.key_reference(member, "Member"), two);
@@ -510,7 +498,9 @@ std::vector<std::function<CMPIObjectPath*(const CMPIBroker*)>> all_paths(
       [=](auto b) { return hosted_collection_fill_reference("C", ns, vsan, conf, 10, b); },
       [=](auto b) { return hosted_collection_fill_reference_zset("C", ns, vsan, conf, set, b); },
       [=](auto b) { return hosted_collection_fill_reference_zone("C", ns, vsan, conf, zone, b); },
-      [=](auto b) { return hosted_collection_fill_reference_zalias("C", ns, vsan, conf, alias, b); },
+      [=](auto b) {
+        return hosted_collection_fill_reference_zalias("C", ns, vsan, conf, alias, b);
+      },
       [=](auto b) { return hosted_service_fill_reference("C", ns, vsan, conf, b); },
   };
 }
@@ -531,9 +521,10 @@ std::vector<std::function<CMPIInstance*(const CMPIBroker*)>> all_instances(
       [=](auto b) { return hosted_collection_build_instance("C", ns, vsan, conf, 10, b); },
       [=](auto b) { return hosted_collection_build_instance_zset("C", ns, vsan, conf, set, b); },
       [=](auto b) { return hosted_collection_build_instance_zone("C", ns, vsan, conf, zone, b); },
-      [=](auto b) { return hosted_collection_build_instance_zalias("C", ns, vsan, conf, alias, b); },
+      [=](auto b) {
+        return hosted_collection_build_instance_zalias("C", ns, vsan, conf, alias, b);
+      },
       [=](auto b) { return hosted_service_build_instance("C", ns, vsan, conf, b); },
-      [=](auto b) { return zone_service_build_instance("C", ns, 10, b); },
       [=](auto b) { return zone_cap_build_instance("C", ns, "10", b); },
   };
 }
@@ -547,6 +538,12 @@ TEST_F(CmpiZoning, AnInstanceThatTheBrokerDoesNotMakeIsNone) {
       EXPECT_EQ(build(broker), nullptr);
     }
   }
+}
+
+TEST_F(CmpiZoning, AServiceThatTheBrokerDoesNotMakeIsNone) {
+  const Script script;
+  broker_.fail_nth_instance(1, Failure::null_handle);
+  EXPECT_EQ(service(), nullptr);
 }
 
 TEST_F(CmpiZoning, AnAssociationsPathThatTheBrokerDoesNotMakeIsNone) {
@@ -585,8 +582,8 @@ TEST_F(CmpiZoning, AnAssociationLeavesOutAnEndWithoutARecord) {
     RecordingBroker broker;
     ASSERT_NE(fill(broker), nullptr);
   }
-  CMPIInstance* instance = esd_build_instance_zoneZoneMember("C", kNamespace, &zone_, nullptr,
-                                                             broker_);
+  CMPIInstance* instance =
+      esd_build_instance_zoneZoneMember("C", kNamespace, &zone_, nullptr, broker_);
   EXPECT_EQ(broker_.property_names(instance), std::vector<std::string>{"ManagedElement"});
 }
 
@@ -608,10 +605,23 @@ TEST_F(CmpiZoning, EveryFailingAllocationMakesAWholeInstanceOrNone) {
     for_every_failing_allocation([&](FailingAllocation& round) {
       RecordingBroker broker;
       broker.write_down(false);
-      CMPIInstance* instance = build(broker);
+      CMPIInstance* instance = round.attempt([&] { return build(broker); });
       EXPECT_TRUE(instance != nullptr || round.was_hit());
     });
   }
+}
+
+TEST_F(CmpiZoning, EveryFailingAllocationMakesAWholeServiceOrNone) {
+  for_every_failing_allocation([&](FailingAllocation& round) {
+    RecordingBroker broker;
+    broker.write_down(false);
+    Script script;
+    script.expect(get(149).sap(15).any_request().length(2632)).status(17);
+    script.expect(query_policies(10)).fails(17);
+    CMPIInstance* instance =
+        round.attempt([&] { return zone_service_build_instance("C", kNamespace, 10, broker); });
+    EXPECT_TRUE(instance != nullptr || round.was_hit());
+  });
 }
 
 }  // namespace

@@ -40,14 +40,13 @@ class PegasusZoning : public testing::Test {
                     {"ElementName", "CollectionAlias", "Active"});
     classes_.define("VEXOR_ZoneMemberSettingData", {"InstanceID"},
                     {"ConnectivityMemberID", "ConnectivityMemberType"});
-    classes_.define("VEXOR_ZoneService",
-                    {"Name", "SystemName", "SystemCreationClassName", "CreationClassName"},
-                    {"SessionState", "RequestedSessionState", "DefaultZoningState",
-                     "OperationalStatus"});
-    classes_.define("VEXOR_ZoneCapabilities", {"InstanceID"},
-                    {"ZoneNameMaxLen", "ZoneNameFormat", "SupportedConnectivityMemberTypes",
-                     "MaxNumZoneSets", "MaxNumZone", "MaxNumZoneMembers", "MaxNumZoneAliases",
-                     "MaxNumZonesPerZoneSet"});
+    classes_.define(
+        "VEXOR_ZoneService", {"Name", "SystemName", "SystemCreationClassName", "CreationClassName"},
+        {"SessionState", "RequestedSessionState", "DefaultZoningState", "OperationalStatus"});
+    classes_.define(
+        "VEXOR_ZoneCapabilities", {"InstanceID"},
+        {"ZoneNameMaxLen", "ZoneNameFormat", "SupportedConnectivityMemberTypes", "MaxNumZoneSets",
+         "MaxNumZone", "MaxNumZoneMembers", "MaxNumZoneAliases", "MaxNumZonesPerZoneSet"});
     classes_.define("C", {"Collection", "Member"}, {});
     classes_.define("E", {"ManagedElement", "SettingData"}, {});
     classes_.define("D", {"Antecedent", "Dependent"}, {});
@@ -58,8 +57,7 @@ class PegasusZoning : public testing::Test {
     script.expect(get(149).sap(15).sends(Record(2632).be32(520, 10)))
         .replies(Record(2632).be32(520, 10));
     script.expect(get(264).sap(14).sends(Record(1152).be32(0, 10).be32(4, 1)))
-        .replies(
-            Record(1152).be32(0, 10).byte(334, 1).put(22, hex("20 0a 00 0d ec 0a 1b 2d")));
+        .replies(Record(1152).be32(0, 10).byte(334, 1).put(22, hex("20 0a 00 0d ec 0a 1b 2d")));
   }
 
   template <class Value>
@@ -100,12 +98,12 @@ TEST_F(PegasusZoning, AZoneSetIsThatOfTheOtherFace) {
   expect(ProviderUtil::zone_set_fill_reference(kNamespace, "VEXOR_ZoneSet", &zone_set_), path);
   const CIMInstance instance =
       ProviderUtil::zone_set_build_instance(kNamespace, "VEXOR_ZoneSet", &zone_set_);
-  expect(instance, "instance VEXOR_ZoneSet\n  [Version]\nproperty InstanceID string 10_7_1\n"
-                   "  [Key]\nproperty ElementName string backup\n  [Description]\n"
-                   "property Active boolean TRUE\n  [Description]\n" +
-                       path);
-  expect(CIMInstance(
-             ProviderUtil::zone_set_build_object(kNamespace, "VEXOR_ZoneSet", &zone_set_)),
+  expect(instance,
+         "instance VEXOR_ZoneSet\n  [Version]\nproperty InstanceID string 10_7_1\n"
+         "  [Key]\nproperty ElementName string backup\n  [Description]\n"
+         "property Active boolean TRUE\n  [Description]\n" +
+             path);
+  expect(CIMInstance(ProviderUtil::zone_set_build_object(kNamespace, "VEXOR_ZoneSet", &zone_set_)),
          pegasus_text::of(instance));
 }
 
@@ -113,13 +111,14 @@ TEST_F(PegasusZoning, AZoneIsThatOfTheOtherFace) {
   const std::string path = "path HOST root/cimv2 VEXOR_Zone\nkey InstanceID = 10_12_0\n";
   expect(ProviderUtil::zone_fill_reference(kNamespace, "VEXOR_Zone", &zone_), path);
   const CIMInstance instance = ProviderUtil::zone_build_instance(kNamespace, "VEXOR_Zone", &zone_);
-  expect(instance, "instance VEXOR_Zone\n  [Version]\nproperty InstanceID string 10_12_0\n"
-                   "  [Key]\nproperty ElementName string tape\n  [Description]\n"
-                   "property Active boolean FALSE\n  [Description]\n"
-                   "property ProtocolType sint32 5\n  [Description]\n"
-                   "property ReadOnly sint32 1\n  [Description]\n"
-                   "property ZoneType uint16 3\n  [Description]\n" +
-                       path);
+  expect(instance,
+         "instance VEXOR_Zone\n  [Version]\nproperty InstanceID string 10_12_0\n"
+         "  [Key]\nproperty ElementName string tape\n  [Description]\n"
+         "property Active boolean FALSE\n  [Description]\n"
+         "property ProtocolType sint32 5\n  [Description]\n"
+         "property ReadOnly sint32 1\n  [Description]\n"
+         "property ZoneType uint16 3\n  [Description]\n" +
+             path);
   expect(CIMInstance(ProviderUtil::zone_build_object(kNamespace, "VEXOR_Zone", &zone_)),
          pegasus_text::of(instance));
 }
@@ -129,27 +128,29 @@ TEST_F(PegasusZoning, AnAliasIsThatOfTheOtherFace) {
   expect(ProviderUtil::zone_alias_fill_reference(kNamespace, "VEXOR_ZoneAlias", &alias_), path);
   const CIMInstance instance =
       ProviderUtil::zone_alias_build_instance(kNamespace, "VEXOR_ZoneAlias", &alias_);
-  expect(instance, "instance VEXOR_ZoneAlias\n  [Version]\nproperty InstanceID string 10_4_1\n"
-                   "  [Key]\nproperty ElementName string library\n  [Description]\n"
-                   "property CollectionAlias string library\n  [Description]\n"
-                   "property Active boolean TRUE\n  [Description]\n" +
-                       path);
+  expect(instance,
+         "instance VEXOR_ZoneAlias\n  [Version]\nproperty InstanceID string 10_4_1\n"
+         "  [Key]\nproperty ElementName string library\n  [Description]\n"
+         "property CollectionAlias string library\n  [Description]\n"
+         "property Active boolean TRUE\n  [Description]\n" +
+             path);
   expect(CIMInstance(ProviderUtil::zone_alias_build_object(kNamespace, "VEXOR_ZoneAlias", &alias_)),
          pegasus_text::of(instance));
 }
 
 TEST_F(PegasusZoning, AMemberIsThatOfTheOtherFace) {
   const char* cls = "VEXOR_ZoneMemberSettingData";
-  const std::string path = "path HOST root/cimv2 VEXOR_ZoneMemberSettingData\n"
-                           "key InstanceID = 10^3^00610203^0\n";
+  const std::string path =
+      "path HOST root/cimv2 VEXOR_ZoneMemberSettingData\n"
+      "key InstanceID = 10^3^00610203^0\n";
   expect(ProviderUtil::zone_member_fill_reference(kNamespace, cls, &member_), path);
-  const CIMInstance instance =
-      ProviderUtil::zone_member_build_instance(kNamespace, cls, &member_);
-  expect(instance, "instance VEXOR_ZoneMemberSettingData\n  [Version]\n"
-                   "property InstanceID string 10^3^00610203^0\n  [Key]\n"
-                   "property ConnectivityMemberID string 610203\n  [Description]\n"
-                   "property ConnectivityMemberType uint16 3\n  [Description]\n" +
-                       path);
+  const CIMInstance instance = ProviderUtil::zone_member_build_instance(kNamespace, cls, &member_);
+  expect(instance,
+         "instance VEXOR_ZoneMemberSettingData\n  [Version]\n"
+         "property InstanceID string 10^3^00610203^0\n  [Key]\n"
+         "property ConnectivityMemberID string 610203\n  [Description]\n"
+         "property ConnectivityMemberType uint16 3\n  [Description]\n" +
+             path);
   expect(CIMInstance(ProviderUtil::zone_member_build_object(kNamespace, cls, &member_)),
          pegasus_text::of(instance));
 }
@@ -158,7 +159,8 @@ TEST_F(PegasusZoning, AZoneServiceIsThatOfTheOtherFaceOnThisFacesQueue) {
   const char* cls = "VEXOR_ZoneService";
   const std::string path =
       "path HOST root/cimv2 VEXOR_ZoneService\nkey CreationClassName = VEXOR_ZoneService\n"
-      "key Name = 10\nkey SystemCreationClassName = VEXOR_Vsan\nkey SystemName = 200A000DEC0A1B2D\n";
+      "key Name = 10\nkey SystemCreationClassName = VEXOR_Vsan\nkey SystemName = "
+      "200A000DEC0A1B2D\n";
   Script script;
   expect_service_reads(script);
   expect(ProviderUtil::zone_service_fill_reference(kNamespace, cls, 10), path);
@@ -170,7 +172,7 @@ TEST_F(PegasusZoning, AZoneServiceIsThatOfTheOtherFaceOnThisFacesQueue) {
       "property SessionState uint16 4\n  [Description]\n"
       "property RequestedSessionState uint16 2\n  [Description]\n"
       "property defaultZoningState uint16 3\n  [Description]\n"
-      "property OperationalStatus uint16[] {2}\n  [Description]\n" +
+      "property OperationalStatus uint16[] 2\n  [Description]\n" +
       path;
   for (int i = 0; i < 2; ++i) {
     expect_service_reads(script);
@@ -190,16 +192,17 @@ TEST_F(PegasusZoning, CapabilitiesAreThoseOfTheOtherFace) {
   const std::string path = "path HOST root/cimv2 VEXOR_ZoneCapabilities\nkey InstanceID = 10\n";
   expect(ProviderUtil::zone_cap_fill_reference(kNamespace, cls, "10"), path);
   const CIMInstance instance = ProviderUtil::zone_cap_build_instance(kNamespace, cls, "10");
-  expect(instance, "instance VEXOR_ZoneCapabilities\n  [Version]\nproperty InstanceID string 10\n"
-                   "  [Key]\nproperty ZoneNameMaxLen uint32 64\n  [Description]\n"
-                   "property ZoneNameFormat uint16 3\n  [Description]\n"
-                   "property SupportedConnectivityMemberTypes uint16[] {2}\n  [Description]\n"
-                   "property MaxNumZoneSets uint32 1000\n  [Description]\n"
-                   "property MaxNumZone uint32 8000\n  [Description]\n"
-                   "property MaxNumZoneMembers uint32 20000\n  [Description]\n"
-                   "property MaxNumZoneAliases uint32 2048\n  [Description]\n"
-                   "property MaxNumZonesPerZoneSet uint32 8000\n  [Description]\n" +
-                       path);
+  expect(instance,
+         "instance VEXOR_ZoneCapabilities\n  [Version]\nproperty InstanceID string 10\n"
+         "  [Key]\nproperty ZoneNameMaxLen uint32 64\n  [Description]\n"
+         "property ZoneNameFormat uint16 3\n  [Description]\n"
+         "property SupportedConnectivityMemberTypes uint16[] 2\n  [Description]\n"
+         "property MaxNumZoneSets uint32 1000\n  [Description]\n"
+         "property MaxNumZone uint32 8000\n  [Description]\n"
+         "property MaxNumZoneMembers uint32 20000\n  [Description]\n"
+         "property MaxNumZoneAliases uint32 2048\n  [Description]\n"
+         "property MaxNumZonesPerZoneSet uint32 8000\n  [Description]\n" +
+             path);
   expect(CIMInstance(ProviderUtil::zone_cap_build_object(kNamespace, cls, "10")),
          pegasus_text::of(instance));
 }
@@ -251,22 +254,21 @@ TEST_F(PegasusZoning, AVsanHostsItsCollections) {
       ProviderUtil::hosted_collection_build_object_zone(kNamespace, d, &vsan_, &conf_, &zone_), d,
       "Antecedent", kVsanKeys, "Dependent", zoning("VEXOR_Zone", "10_12_0"));
   expect_association(
-      ProviderUtil::hosted_collection_fill_reference_zalias(kNamespace, d, &vsan_, &conf_,
-                                                            &alias_),
-      ProviderUtil::hosted_collection_build_instance_zalias(kNamespace, d, &vsan_, &conf_,
-                                                            &alias_),
+      ProviderUtil::hosted_collection_fill_reference_zalias(kNamespace, d, &vsan_, &conf_, &alias_),
+      ProviderUtil::hosted_collection_build_instance_zalias(kNamespace, d, &vsan_, &conf_, &alias_),
       ProviderUtil::hosted_collection_build_object_zalias(kNamespace, d, &vsan_, &conf_, &alias_),
       d, "Antecedent", kVsanKeys, "Dependent", zoning("VEXOR_ZoneAlias", "10_4_1"));
 }
 
 TEST_F(PegasusZoning, AVsanHostsItsZoneServiceAndThereTheClassNameIsFirst) {
   Script script;
-  for (int i = 0; i < 5; ++i) expect_service_reads(script);
+  for (int i = 0; i < 5; ++i)
+    expect_service_reads(script);
   expect_association(
       ProviderUtil::hosted_service_fill_reference("D", kNamespace, &vsan_, &conf_),
       ProviderUtil::hosted_service_build_instance("D", kNamespace, &vsan_, &conf_),
-      ProviderUtil::hosted_service_build_object("D", kNamespace, &vsan_, &conf_), "D",
-      "Antecedent", kVsanKeys, "Dependent",
+      ProviderUtil::hosted_service_build_object("D", kNamespace, &vsan_, &conf_), "D", "Antecedent",
+      kVsanKeys, "Dependent",
       "//HOST/root/cimv2:VEXOR_ZoneService.CreationClassName=\"VEXOR_ZoneService\",Name=\"10\","
       "SystemCreationClassName=\"VEXOR_Vsan\",SystemName=\"200A000DEC0A1B2D\"");
 }
@@ -277,11 +279,10 @@ TEST_F(PegasusZoning, CollectionsAndHostsOfGivenReferences) {
       ProviderUtil::zone_alias_fill_reference(kNamespace, "VEXOR_ZoneAlias", &alias_);
   const std::string first = zoning("VEXOR_Zone", "10_12_0");
   const std::string second = zoning("VEXOR_ZoneAlias", "10_4_1");
-  expect_association(
-      ProviderUtil::zmoc_fill_reference_MemberCollection(kNamespace, "C", one, two),
-      ProviderUtil::zmoc_build_instance_MemberCollection(kNamespace, "C", one, two),
-      ProviderUtil::zmoc_build_object_MemberCollection(kNamespace, "C", one, two), "C",
-      "Collection", first, "Member", second);
+  expect_association(ProviderUtil::zmoc_fill_reference_MemberCollection(kNamespace, "C", one, two),
+                     ProviderUtil::zmoc_build_instance_MemberCollection(kNamespace, "C", one, two),
+                     ProviderUtil::zmoc_build_object_MemberCollection(kNamespace, "C", one, two),
+                     "C", "Collection", first, "Member", second);
   expect_association(ProviderUtil::zone_hosted_collection_fill_reference(kNamespace, "D", one, two),
                      ProviderUtil::zhc_build_instance(kNamespace, "D", one, two),
                      ProviderUtil::zhc_build_object(kNamespace, "D", one, two), "D", "Antecedent",
@@ -290,13 +291,11 @@ TEST_F(PegasusZoning, CollectionsAndHostsOfGivenReferences) {
 
 TEST_F(PegasusZoning, NoRecordAndNoIdMakeAnUninitializedObject) {
   const Script script;
-  EXPECT_TRUE(ProviderUtil::zone_set_fill_reference(kNamespace, "C", nullptr)
-                  .getClassName()
-                  .isNull());
+  EXPECT_TRUE(
+      ProviderUtil::zone_set_fill_reference(kNamespace, "C", nullptr).getClassName().isNull());
   EXPECT_TRUE(ProviderUtil::zone_fill_reference(kNamespace, "C", nullptr).getClassName().isNull());
-  EXPECT_TRUE(ProviderUtil::zone_cap_fill_reference(kNamespace, "C", nullptr)
-                  .getClassName()
-                  .isNull());
+  EXPECT_TRUE(
+      ProviderUtil::zone_cap_fill_reference(kNamespace, "C", nullptr).getClassName().isNull());
   EXPECT_TRUE(ProviderUtil::zone_set_build_instance(kNamespace, "C", nullptr).isUninitialized());
   EXPECT_TRUE(ProviderUtil::zone_build_instance(kNamespace, "C", nullptr).isUninitialized());
   EXPECT_TRUE(ProviderUtil::zone_alias_build_instance(kNamespace, "C", nullptr).isUninitialized());
