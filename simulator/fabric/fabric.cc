@@ -118,6 +118,7 @@ void sort(Fabric& fabric) {
   for (Vsan& vsan : fabric.vsans) {
     std::stable_sort(vsan.domains.begin(), vsan.domains.end(), by(kDomainSwitch));
   }
+  sort_ports(fabric);
 }
 
 std::optional<std::string> problem_of(const Fabric& fabric) {
@@ -136,7 +137,7 @@ std::optional<std::string> problem_of(const Fabric& fabric) {
       return "two VSANs with the number " + std::to_string(fabric.vsans[i].number);
     }
   }
-  return std::nullopt;
+  return problem_of_ports(fabric);
 }
 
 const Switch* find_switch(const Fabric& fabric, const Wwn& wwn) {

@@ -10,6 +10,10 @@
 #include <string_view>
 #include <vector>
 
+#include "simulator/fabric/ports.h"
+#include "simulator/fabric/topology_cache.h"
+#include "simulator/fabric/wwn.h"
+
 namespace switch_sim {
 
 inline constexpr uint32_t kLargestVsan = 4094;
@@ -18,13 +22,6 @@ inline constexpr size_t kLongestVsanName = 127;
 inline constexpr size_t kLongestSystemName = 255;
 inline constexpr size_t kLongestSystemText = 1023;
 inline constexpr size_t kLongestObjectId = 256;
-
-// A World Wide Name, most significant byte first.
-struct Wwn {
-  std::array<uint8_t, 8> bytes{};
-  friend bool operator==(const Wwn&, const Wwn&) = default;
-  friend bool operator<(const Wwn& left, const Wwn& right) { return left.bytes < right.bytes; }
-};
 
 // A management address: IPv4 in the first four bytes, or IPv6.
 struct IpAddress {
@@ -51,6 +48,8 @@ struct Switch {
   Wwn wwn;           // switch-wide: no VSAN number in its first bytes
   IpAddress address;
   SystemInformation system;
+  std::vector<Module> modules;        // by slot, rising
+  std::vector<Interface> interfaces;  // by interface index, rising
   friend bool operator==(const Switch&, const Switch&) = default;
 };
 
@@ -86,6 +85,10 @@ struct Fabric {
   Wwn local_switch;              // the switch whose platform this is
   std::vector<Switch> switches;  // by WWN, rising
   std::vector<Vsan> vsans;       // by number, rising
+  std::vector<Link> links;       // by their first ends, rising
+  std::vector<Device> devices;   // by port WWN, rising
+  uint64_t counter_seed = 1;     // of the numbers that counters grow by
+  TopologyCache topology;        // of services; no part of the value
   friend bool operator==(const Fabric&, const Fabric&) = default;
 };
 

@@ -14,79 +14,12 @@
 #include "simulator/fabric/fabric_file.h"
 #include "simulator/fabric/fabric_words.h"
 #include "simulator/fabric/json.h"
+#include "simulator/fabric/object_reader.h"
+#include "simulator/fabric/port_file.h"
 #include "simulator/fabric/suggestion.h"
 
 namespace switch_sim {
 namespace {
-
-using json::Position;
-using json::Problem;
-using json::quote;
-using json::Value;
-
-template <typename Type>
-const Type& expect(const Value& value, const char* what) {
-  if (const auto* data = std::get_if<Type>(&value.data)) return *data;
-  throw Problem{value.position, std::string("expected ") + what};
-}
-
-// The members of one object. Keys that are not among `known` are refused at once.
-class ObjectReader {
- public:
-  ObjectReader(const Value& value, const char* what, std::vector<std::string_view> known)
-      : position_(value.position), object_(expect<json::Object>(value, what)), what_(what) {
-    for (const json::Member& member : object_) {
-      if (std::find(known.begin(), known.end(), member.key) == known.end()) {
-        throw Problem{member.key_position,
-                      "unknown key " + quote(member.key) + suggestion(member.key, known)};
-      }
-    }
-  }
-
-  const Value* find(std::string_view key) const {
-    const auto member =
-        std::find_if(object_.begin(), object_.end(),
-                     [&](const json::Member& candidate) { return candidate.key == key; });
-    return member != object_.end() ? &member->value : nullptr;
-  }
-
-  const Value& at(std::string_view key) const {
-    if (const Value* value = find(key)) return *value;
-    throw Problem{position_, std::string(what_) + " lacks " + quote(key)};
-  }
-
-  Position position_of(std::string_view key) const {
-    const Value* value = find(key);
-    return value != nullptr ? value->position : position_;
-  }
-
- private:
-  Position position_;
-  const json::Object& object_;
-  const char* what_;
-};
-
-template <typename Integer>
-Integer read_number(const Value& value, int64_t least, int64_t most) {
-  const auto& number = expect<json::Number>(value, "a number");
-  if (!number.integer || *number.integer < least || *number.integer > most) {
-    throw Problem{value.position, "expected a whole number from " + std::to_string(least) + " to " +
-                                      std::to_string(most)};
-  }
-  return static_cast<Integer>(*number.integer);
-}
-
-template <typename Integer>
-Integer read_number(const ObjectReader& object, const char* key, int64_t least, int64_t most,
-                    Integer otherwise) {
-  const Value* value = object.find(key);
-  return value != nullptr ? read_number<Integer>(*value, least, most) : otherwise;
-}
-
-bool read_flag(const ObjectReader& object, const char* key, bool otherwise) {
-  const Value* value = object.find(key);
-  return value != nullptr ? expect<bool>(*value, "true or false") : otherwise;
-}
 
 bool is_control(char character) {
   return static_cast<uint8_t>(character) < 0x20 || character == 0x7F;
@@ -117,19 +50,6 @@ std::string read_text(const ObjectReader& object, const char* key, const char* o
     throw Problem{value->position, "a text holds no zero byte"};
   }
   return text;
-}
-
-template <typename Enumeration, size_t kCount>
-Enumeration read_word(const ObjectReader& object, const char* key,
-                      const std::array<std::string_view, kCount>& words, Enumeration otherwise) {
-  const Value* value = object.find(key);
-  if (value == nullptr) return otherwise;
-  const auto& text = expect<std::string>(*value, "a text");
-  const auto word = std::find(words.begin(), words.end(), text);
-  if (word == words.end()) {
-    throw Problem{value->position, "expected " + list_of(words) + suggestion(text, words)};
-  }
-  return static_cast<Enumeration>(word - words.begin() + 1);
 }
 
 Wwn read_switch_wwn(const Value& value) {
@@ -168,7 +88,9 @@ std::vector<uint32_t> read_object_id(const ObjectReader& object) {
 class FabricReader {
  public:
   Fabric read(const Value& file) {
-    const ObjectReader object(file, "the fabric", {"version", "local_switch", "switches", "vsans"});
+    const ObjectReader object(
+        file, "the fabric",
+        {"version", "local_switch", "switches", "vsans", "links", "devices", "counter_seed"});
     read_number<int64_t>(object.at("version"), kFabricFileVersion, kFabricFileVersion);
     for (const Value& value : expect<json::Array>(object.at("switches"), "a list of switches")) {
       read_switch(value);
@@ -179,6 +101,9 @@ class FabricReader {
         read_vsan(value);
     }
     sort(fabric_);
+    read_links_and_devices(
+        object, [this](const Value& value) { return read_reference(value); }, fabric_);
+    sort(fabric_);
     // Every rule has been tested above; this is for a rule that the model has and the reader
     // forgot.
     if (auto problem = problem_of(fabric_)) throw Problem{file.position, *problem};
@@ -187,9 +112,10 @@ class FabricReader {
 
  private:
   void read_switch(const Value& value) {
-    const ObjectReader object(value, "a switch",
-                              {"name", "wwn", "address", "contact", "location", "description",
-                               "software_version", "object_id", "services", "uptime_hundredths"});
+    const ObjectReader object(
+        value, "a switch",
+        {"name", "wwn", "address", "contact", "location", "description", "software_version",
+         "object_id", "services", "uptime_hundredths", "modules", "interfaces"});
     Switch made;
     made.name = read_name(object.at("name"), kLongestSystemName);
     made.wwn = read_switch_wwn(object.at("wwn"));
@@ -206,6 +132,7 @@ class FabricReader {
     made.system.services = read_number<uint32_t>(object, "services", 0, 127, made.system.services);
     made.system.uptime_hundredths =
         read_number<uint32_t>(object, "uptime_hundredths", 0, UINT32_MAX, 0);
+    read_ports(object, made);
     if (!wwns_.insert(made.wwn).second) {
       throw Problem{object.position_of("wwn"), "another switch has this WWN"};
     }
