@@ -112,7 +112,7 @@ TEST(Generator, AWrongDescriptionIsTold) {
             error_of("switches=240"));
   EXPECT_EQ("vsans: expected a whole number from 0 to 4094, found \"4095\"",
             error_of("vsans=4095"));
-  EXPECT_EQ("ports: expected a whole number from 0 to 255, found \"256\"", error_of("ports=256"));
+  EXPECT_EQ("ports: expected a whole number from 0 to 768, found \"769\"", error_of("ports=769"));
   EXPECT_EQ("devices: expected a whole number from 0 to 100000, found \"-1\"",
             error_of("devices=-1"));
   EXPECT_EQ("seed: expected a whole number from 0 to 18446744073709551615, found \"7x\"",
