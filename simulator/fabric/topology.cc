@@ -359,6 +359,20 @@ std::vector<RoutedLink> Topology::links_of(const Fabric& fabric, const Wwn& swit
   return found;
 }
 
+// In the order of the WWNs there: the last byte of one may have wrapped around.
+const std::vector<Element>& Topology::elements_of(const Vsan& vsan) const {
+  const auto [found, is_new] = elements_.try_emplace(vsan.number);
+  std::vector<Element>& elements = found->second;
+  if (!is_new) return elements;
+  for (size_t i = 0; i < vsan.domains.size(); ++i) {
+    if (!is_running(vsan, vsan.domains[i])) continue;
+    elements.push_back({vsan_wwn(vsan.domains[i].switch_wwn, vsan.number), i});
+  }
+  std::sort(elements.begin(), elements.end(),
+            [](const Element& left, const Element& right) { return left.wwn < right.wwn; });
+  return elements;
+}
+
 const Topology& topology_of(const Fabric& fabric) {
   auto& kept = fabric.topology.topology_;
   if (!kept) kept = std::make_shared<const Topology>(fabric);

@@ -5,7 +5,7 @@
 
 #include <cstdint>
 #include <map>
-#include <span>
+#include <unordered_map>
 #include <vector>
 
 #include "simulator/fabric/fabric.h"
@@ -38,6 +38,12 @@ struct RoutedLink {
   uint32_t speed = 0;  // Mb/s
 };
 
+// A switch as it shows itself in a VSAN.
+struct Element {
+  Wwn wwn;            // of the switch in the VSAN
+  size_t domain = 0;  // its place in Vsan::domains
+};
+
 class Topology {
  public:
   explicit Topology(const Fabric& fabric);
@@ -64,6 +70,10 @@ class Topology {
   // The links over which a switch reaches others in a VSAN, by interface.
   std::vector<RoutedLink> links_of(const Fabric& fabric, const Wwn& switch_wwn,
                                    uint32_t vsan) const;
+
+  // The switches whose domain manager runs in the VSAN, by their WWN there. Good while the topology
+  // is.
+  const std::vector<Element>& elements_of(const Vsan& vsan) const;
 
  private:
   friend class TopologyBuilder;
@@ -98,6 +108,7 @@ class Topology {
   std::vector<Registration> registrations_;  // by VSAN and FC ID
   std::vector<ByWwn> by_port_, by_node_, by_fabric_port_;
   std::map<LinkEnd, std::vector<uint32_t>> fcip_;
+  mutable std::unordered_map<uint32_t, std::vector<Element>> elements_;  // as far as asked for
 };
 
 // The topology of the fabric, kept in it until it is changed. A fabric whose parts were changed in

@@ -155,6 +155,9 @@ TEST(FabricFile, TheExampleOfTheDocumentIsRead) {
   const Fabric fabric = fabric_of(text);
   EXPECT_EQ(2U, fabric.switches.size());
   EXPECT_EQ(switch_sim::VsanState::suspended, fabric.vsans.at(1).state);
+  EXPECT_EQ(17U, fabric.switches.at(0).interfaces.size());
+  EXPECT_EQ(1U, fabric.links.size());
+  EXPECT_EQ(1U, fabric.devices.size());
 }
 
 TEST(FabricFile, AnEmptyListIsWrittenInOneLine) {

@@ -483,6 +483,22 @@ TEST_F(PortManager, UnsupportedOpticsKeepThePortDown) {
   EXPECT_EQ(1, port(0x01010001)->fcot_present);
 }
 
+TEST_F(PortManager, EveryPortOfALargeSwitchIsWalkedOnce) {
+  ASSERT_EQ(std::nullopt,
+            control::install_generated("switches=50,ports=768,vsans=4,devices=5000,seed=3"));
+  control::clear_log();
+  size_t found = 0;
+  uint32_t at = 0x01000000;
+  for (const pm_port_info_* info = port(at, 2); info != nullptr; info = port(at, 2)) {
+    EXPECT_GT(info->if_index, at);
+    at = info->if_index;
+    ++found;
+    kept.clear();
+  }
+  EXPECT_EQ(768U, found);
+  EXPECT_EQ(769U, control::exchange_count());
+}
+
 class PortChannels : public SimulatorTest {
  protected:
   Result entry(uint32_t operation, const char* number) {
