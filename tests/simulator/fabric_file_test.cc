@@ -477,6 +477,19 @@ TEST_F(FabricState, EveryChangeIsSavedBeforeItIsAcknowledged) {
   EXPECT_EQ("edge-8", saved.switches.at(0).name);
 }
 
+TEST_F(FabricState, AChangeOfAPortIsSaved) {
+  ASSERT_EQ(std::nullopt, switch_sim::control::keep_state_in(path));
+  // Speed of fc1/1, then a speed that is refused.
+  EXPECT_EQ(0, call(34, 0x11002, 3, Pattern(12).at(0, "0101000100000003000003e8").bytes()).status);
+  const std::string saved = content(path);
+  EXPECT_NE(std::string::npos,
+            saved.find("{\"name\": \"fc1/1\", \"alias\": \"host-a\", \"admin_state\": \"up\", "
+                       "\"vsan\": 1, \"mode\": \"auto\", \"speed\": 1000, "));
+  EXPECT_EQ(switch_sim::control::fabric(), fabric_of(saved));
+  EXPECT_EQ(0, call(34, 0x11002, 3, Pattern(12).at(0, "0101000100000003000003e9").bytes()).status);
+  EXPECT_EQ(saved, content(path));
+}
+
 TEST_F(FabricState, ASavedStateIsGoneOnFrom) {
   ASSERT_EQ(std::nullopt, switch_sim::control::keep_state_in(path));
   rename_switch("edge-7");
