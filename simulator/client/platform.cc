@@ -10,6 +10,7 @@
 
 #include "simulator/local/platform_status.h"
 #include "simulator/services/services.h"
+#include "simulator/transport/port_messages.h"
 
 namespace switch_sim {
 namespace {
@@ -119,7 +120,21 @@ Outcome Platform::handle(const Request& request) {
   if (!startup_problem_.empty()) return services::refuse(status::kFabricNotUsable);
   if (recording_) return recording_->next_for(request);
   if (connection_) return connection_->exchange(request, clock_);
-  return request.operation == kSet ? change(request) : answer(request, fabric_, clock_.now());
+  return request.operation == kSet ? change(request) : answer(request, fabric_, time_of(request));
+}
+
+VirtualTime Platform::time_of(const Request& request) const {
+  const bool of_counters =
+      request.service == Service::port_manager && request.opcode == kPortCounters;
+  return of_counters ? counters_frozen_at_.value_or(clock_.now()) : clock_.now();
+}
+
+void Platform::freeze_counters(bool on) {
+  if (!on) {
+    counters_frozen_at_.reset();
+  } else if (!counters_frozen_at_) {
+    counters_frozen_at_ = clock_.now();
+  }
 }
 
 // A change counts only once it is saved.

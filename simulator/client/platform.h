@@ -100,6 +100,9 @@ class Platform {
   // Answers a request of another process, and counts and logs it.
   TimedOutcome serve(const TimedRequest& request);
   VirtualClock& clock() { return clock_; }
+
+  // While frozen, counters stand still; afterwards they go on from what the clock shows.
+  void freeze_counters(bool on);
   RequestLog& log() { return log_; }
   FaultPlan& faults() { return faults_; }
   void replay(std::unique_ptr<Recording> recording) { recording_ = std::move(recording); }
@@ -120,11 +123,13 @@ class Platform {
   std::unique_ptr<Carrier> open_carrier();
   Outcome handle(const Request& request);
   Outcome change(const Request& request);
+  VirtualTime time_of(const Request& request) const;
   Outcome exchange(std::unique_ptr<Carrier>& carrier, const Request& request);
 
   std::mutex mutex_;
   Fabric fabric_ = default_fabric();
   VirtualClock clock_;
+  std::optional<VirtualTime> counters_frozen_at_;
   Token next_token_ = 1;
   RequestLog log_;
   FaultPlan faults_;

@@ -126,6 +126,7 @@ void reset() {
     platform.replay(nullptr);
     platform.reset_counts();
     platform.clock().reset();
+    platform.freeze_counters(false);
   });
 }
 
@@ -169,6 +170,10 @@ VirtualTime now() {
 
 void advance(VirtualTime by) {
   locked([&](Platform& platform) { platform.clock().advance_to(platform.clock().now() + by); });
+}
+
+void freeze_counters(bool on) {
+  locked([&](Platform& platform) { platform.freeze_counters(on); });
 }
 
 Outstanding outstanding() {

@@ -54,7 +54,7 @@ std::optional<std::string> serve(const std::string& path, int stop,
                                  const std::function<void()>& serving);
 
 // Back to the default fabric, an empty log, no faults, no replay, no state file, no other process's
-// switch, counts at zero, and a clock at zero. Queues stay bound.
+// switch, counts at zero, a clock at zero, and counters that move. Queues stay bound.
 void reset();
 
 // The environment could not be used (the text tells why), and every request is refused.
@@ -75,6 +75,9 @@ std::optional<std::string> replay(const std::string& recording);
 
 VirtualTime now();
 void advance(VirtualTime by);
+
+// The counters of ports stand still from now on, or go on from what the clock shows.
+void freeze_counters(bool on);
 
 // What the client functions gave out. Messages, iterators and queues are those not given back yet;
 // replies are all that were handed out, since callers release them with free().

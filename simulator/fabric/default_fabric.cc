@@ -1,4 +1,5 @@
 // The fabric that is there when nothing else is asked for.
+#include "simulator/fabric/default_ports.h"
 #include "simulator/fabric/fabric.h"
 
 namespace switch_sim {
@@ -84,6 +85,8 @@ Fabric default_fabric() {
   second.domains[2].configured_type = DomainType::static_id;
 
   fabric.vsans = {first, second};
+  add_default_ports(fabric);
+  sort(fabric);
   return fabric;
 }
 

@@ -143,6 +143,7 @@ void sort(Fabric& fabric) {
       std::stable_sort(distributed.begin(), distributed.end(), by(kHolder));
     }
   }
+  sort_ports(fabric);
 }
 
 std::optional<std::string> problem_of(const Fabric& fabric) {
@@ -161,7 +162,7 @@ std::optional<std::string> problem_of(const Fabric& fabric) {
       return "two VSANs with the number " + std::to_string(fabric.vsans[i].number);
     }
   }
-  return std::nullopt;
+  return problem_of_ports(fabric);
 }
 
 const Switch* find_switch(const Fabric& fabric, const Wwn& wwn) {

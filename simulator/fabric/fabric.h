@@ -10,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "simulator/fabric/ports.h"
+#include "simulator/fabric/topology_cache.h"
 #include "simulator/fabric/wwn.h"
 #include "simulator/fabric/zoning.h"
 
@@ -47,6 +49,8 @@ struct Switch {
   Wwn wwn;           // switch-wide: no VSAN number in its first bytes
   IpAddress address;
   SystemInformation system;
+  std::vector<Module> modules;        // by slot, rising
+  std::vector<Interface> interfaces;  // by interface index, rising
   friend bool operator==(const Switch&, const Switch&) = default;
 };
 
@@ -83,6 +87,10 @@ struct Fabric {
   Wwn local_switch;              // the switch whose platform this is
   std::vector<Switch> switches;  // by WWN, rising
   std::vector<Vsan> vsans;       // by number, rising
+  std::vector<Link> links;       // by their first ends, rising
+  std::vector<Device> devices;   // by port WWN, rising
+  uint64_t counter_seed = 1;     // of the numbers that counters grow by
+  TopologyCache topology;        // of services; no part of the value
   friend bool operator==(const Fabric&, const Fabric&) = default;
 };
 

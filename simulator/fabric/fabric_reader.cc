@@ -15,6 +15,7 @@
 #include "simulator/fabric/fabric_words.h"
 #include "simulator/fabric/json.h"
 #include "simulator/fabric/object_reader.h"
+#include "simulator/fabric/port_file.h"
 #include "simulator/fabric/suggestion.h"
 #include "simulator/fabric/zoning_file.h"
 
@@ -88,7 +89,9 @@ std::vector<uint32_t> read_object_id(const ObjectReader& object) {
 class FabricReader {
  public:
   Fabric read(const Value& file) {
-    const ObjectReader object(file, "the fabric", {"version", "local_switch", "switches", "vsans"});
+    const ObjectReader object(
+        file, "the fabric",
+        {"version", "local_switch", "switches", "vsans", "links", "devices", "counter_seed"});
     read_number<int64_t>(object.at("version"), kFabricFileVersion, kFabricFileVersion);
     for (const Value& value : expect<json::Array>(object.at("switches"), "a list of switches")) {
       read_switch(value);
@@ -99,6 +102,9 @@ class FabricReader {
         read_vsan(value);
     }
     sort(fabric_);
+    read_links_and_devices(
+        object, [this](const Value& value) { return read_reference(value); }, fabric_);
+    sort(fabric_);
     // Every rule has been tested above; this is for a rule that the model has and the reader
     // forgot.
     if (auto problem = problem_of(fabric_)) throw Problem{file.position, *problem};
@@ -107,9 +113,10 @@ class FabricReader {
 
  private:
   void read_switch(const Value& value) {
-    const ObjectReader object(value, "a switch",
-                              {"name", "wwn", "address", "contact", "location", "description",
-                               "software_version", "object_id", "services", "uptime_hundredths"});
+    const ObjectReader object(
+        value, "a switch",
+        {"name", "wwn", "address", "contact", "location", "description", "software_version",
+         "object_id", "services", "uptime_hundredths", "modules", "interfaces"});
     Switch made;
     made.name = read_name(object.at("name"), kLongestSystemName);
     made.wwn = read_switch_wwn(object.at("wwn"));
@@ -126,6 +133,7 @@ class FabricReader {
     made.system.services = read_number<uint32_t>(object, "services", 0, 127, made.system.services);
     made.system.uptime_hundredths =
         read_number<uint32_t>(object, "uptime_hundredths", 0, UINT32_MAX, 0);
+    read_ports(object, made);
     if (!wwns_.insert(made.wwn).second) {
       throw Problem{object.position_of("wwn"), "another switch has this WWN"};
     }

@@ -11,6 +11,7 @@
 #include "simulator/fabric/fabric_file.h"
 #include "simulator/fabric/fabric_words.h"
 #include "simulator/fabric/json.h"
+#include "simulator/fabric/port_file.h"
 #include "simulator/fabric/zoning_file.h"
 
 namespace switch_sim {
@@ -47,8 +48,8 @@ void write_switch(std::string& text, const Switch& element) {
   line("software_version", quote(system.software_version));
   line("object_id", quote(object_id_text(system.object_id)));
   line("services", std::to_string(system.services));
-  line("uptime_hundredths", std::to_string(system.uptime_hundredths), "\n");
-  text += "    }";
+  line("uptime_hundredths", std::to_string(system.uptime_hundredths), "");
+  text += ports_text(element) + "\n    }";
 }
 
 void write_domain(std::string& text, const DomainManager& domain) {
@@ -153,7 +154,7 @@ std::string write_fabric(const Fabric& fabric) {
   write_list(text, "  ", fabric.switches, write_switch);
   text += ",\n  \"vsans\": ";
   write_list(text, "  ", fabric.vsans, write_vsan);
-  return text + "\n}\n";
+  return text + links_and_devices_text(fabric) + "\n}\n";
 }
 
 std::optional<FabricError> save_fabric_file(const Fabric& fabric, const std::string& path) {

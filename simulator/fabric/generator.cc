@@ -7,6 +7,8 @@
 #include <numeric>
 #include <set>
 
+#include "simulator/fabric/generator_ports.h"
+#include "simulator/fabric/random.h"
 #include "simulator/fabric/suggestion.h"
 
 namespace switch_sim {
@@ -21,7 +23,9 @@ struct Parameter {
 };
 
 constexpr size_t kSwitches = 0;
+constexpr size_t kPorts = 1;
 constexpr size_t kVsans = 2;
+constexpr size_t kDevices = 3;
 constexpr size_t kSeed = 4;
 constexpr size_t kZones = 5;
 constexpr size_t kMembers = 6;
@@ -31,9 +35,9 @@ using Parameters = std::array<Parameter, 8>;
 
 constexpr Parameters kDefaults = {{
     {"switches", 1, kLargestDomainId, 3},
-    {"ports", 0, 255, 0},  // of each switch
+    {"ports", 0, kMostGeneratedPorts, 0},  // of each switch
     {"vsans", 0, kLargestVsan, 2},
-    {"devices", 0, 100000, 0},
+    {"devices", 0, kMostGeneratedDevices, 0},
     {"seed", 0, UINT64_MAX, 1},
     {"zones", 0, kMostZones, 0},      // of each VSAN, as the next two
     {"members", 0, kMostMembers, 0},  // of its zones and aliases together
@@ -82,28 +86,6 @@ std::string read_parameters(std::string_view description, Parameters& parameters
     description.remove_prefix(comma + 1);
   }
 }
-
-// The splitmix64 sequence: the same on every machine, unlike the standard distributions.
-class Random {
- public:
-  explicit Random(uint64_t seed) : state_(seed) {}
-
-  uint64_t next() {
-    state_ += 0x9E3779B97F4A7C15U;
-    uint64_t value = state_;
-    value = (value ^ value >> 30) * 0xBF58476D1CE4E5B9U;
-    value = (value ^ value >> 27) * 0x94D049BB133111EBU;
-    return value ^ value >> 31;
-  }
-
-  // 0 to count - 1.
-  uint64_t below(uint64_t count) { return next() % count; }
-
-  bool one_in(uint64_t count) { return below(count) == 0; }
-
- private:
-  uint64_t state_;
-};
 
 std::string numbered(const char* format, unsigned number) {
   char text[32];
@@ -270,6 +252,11 @@ ReadFabric generate_fabric(std::string_view description) {
   sort(fabric);
   for (const uint32_t number : choose_vsans(parameters[kVsans].value, random)) {
     fabric.vsans.push_back(make_vsan(number, fabric, random));
+  }
+  if (auto error = add_generated_ports(
+          {parameters[kPorts].value, parameters[kDevices].value, parameters[kSeed].value},
+          fabric)) {
+    return std::move(*error);
   }
   // Behind everything else, so that zoning changes nothing of a fabric but its zoning.
   for (Vsan& vsan : fabric.vsans) {

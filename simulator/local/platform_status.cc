@@ -12,7 +12,7 @@ namespace {
 
 using namespace switch_sim::status;
 
-constexpr std::array<std::pair<int32_t, const char*>, 15> kTexts = {{
+constexpr std::array<std::pair<int32_t, const char*>, 18> kTexts = {{
     {kOk, "Success"},
     {kTransportFailure, "Message transport failure"},
     {kNotFound, "No such entry"},
@@ -27,6 +27,9 @@ constexpr std::array<std::pair<int32_t, const char*>, 15> kTexts = {{
     {kStateNotSaved, "Change could not be saved"},
     {kNotRecorded, "Request is not in the recording"},
     {kNoMemory, "Out of memory"},
+    {kAttributeNotSupported, "Attribute cannot be set on this interface"},
+    {kPortInChannel, "Interface belongs to a port channel"},
+    {kQueryRejected, "Query rejected by the name server"},
     {kBadSystemInformationItem, "No such system-information item"},
 }};
 

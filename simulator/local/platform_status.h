@@ -22,6 +22,9 @@ inline constexpr int32_t kFabricNotUsable = 0x40010009;
 inline constexpr int32_t kStateNotSaved = 0x4001000A;
 inline constexpr int32_t kNotRecorded = 0x4001000B;
 inline constexpr int32_t kNoMemory = 0x4001000C;
+inline constexpr int32_t kAttributeNotSupported = 0x40150001;
+inline constexpr int32_t kPortInChannel = 0x40150002;
+inline constexpr int32_t kQueryRejected = 0x4025000A;
 inline constexpr int32_t kBadSystemInformationItem = 0x40490001;
 
 }  // namespace switch_sim::status

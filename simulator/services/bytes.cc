@@ -17,6 +17,15 @@ ReplyWriter& ReplyWriter::be32(size_t offset, uint32_t value) {
       .u8(offset + 3, value);
 }
 
+ReplyWriter& ReplyWriter::be16(size_t offset, uint32_t value) {
+  return u8(offset, value >> 8).u8(offset + 1, value);
+}
+
+ReplyWriter& ReplyWriter::be64(size_t offset, uint64_t value) {
+  return be32(offset, static_cast<uint32_t>(value >> 32))
+      .be32(offset + 4, static_cast<uint32_t>(value));
+}
+
 ReplyWriter& ReplyWriter::wwn(size_t offset, const Wwn& value) {
   return raw(offset, value.bytes.data(), value.bytes.size());
 }

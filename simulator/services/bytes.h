@@ -18,6 +18,8 @@ class ReplyWriter {
 
   ReplyWriter& u8(size_t offset, uint32_t value);
   ReplyWriter& be32(size_t offset, uint32_t value);
+  ReplyWriter& be16(size_t offset, uint32_t value);
+  ReplyWriter& be64(size_t offset, uint64_t value);
   ReplyWriter& wwn(size_t offset, const Wwn& value);
   ReplyWriter& raw(size_t offset, const uint8_t* bytes, size_t size);
 

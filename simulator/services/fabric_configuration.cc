@@ -10,6 +10,7 @@
 // A switch shows its VSAN WWN in each VSAN.
 #include <algorithm>
 
+#include "simulator/fabric/topology.h"
 #include "simulator/local/platform_status.h"
 #include "simulator/services/bytes.h"
 #include "simulator/services/services.h"
@@ -24,32 +25,14 @@ constexpr uint32_t kElementSelector = 20;
 constexpr uint32_t kSwitchType = 1;
 constexpr size_t kAddressSize = 396;
 
-struct Element {
-  Wwn wwn;
-  const DomainManager* domain;
-};
-
 // The server tells about a VSAN only while the local switch takes part in it.
 bool serves(const Fabric& fabric, const Vsan& vsan) {
   const DomainManager* local = find_domain(vsan, fabric.local_switch);
   return local != nullptr && is_running(vsan, *local);
 }
 
-// By WWN, rising: the last byte of a VSAN WWN may have wrapped around.
-std::vector<Element> elements_of(const Vsan& vsan) {
-  std::vector<Element> elements;
-  for (const DomainManager& domain : vsan.domains) {
-    if (is_running(vsan, domain)) {
-      elements.push_back({vsan_wwn(domain.switch_wwn, vsan.number), &domain});
-    }
-  }
-  std::sort(elements.begin(), elements.end(),
-            [](const Element& left, const Element& right) { return left.wwn < right.wwn; });
-  return elements;
-}
-
 Bytes write_element(const Vsan& vsan, const Element& element) {
-  const uint32_t domain_id = element.domain->domain_id;
+  const uint32_t domain_id = vsan.domains[element.domain].domain_id;
   ReplyWriter reply(kElementSize);
   reply.be32(0, vsan.number)
       .wwn(4, element.wwn)
@@ -59,28 +42,35 @@ Bytes write_element(const Vsan& vsan, const Element& element) {
   return std::move(reply).take();
 }
 
+bool before(const Element& element, const Wwn& wwn) {
+  return element.wwn < wwn;
+}
+
+bool after(const Wwn& wwn, const Element& element) {
+  return wwn < element.wwn;
+}
+
 Outcome exact_element(const Fabric& fabric, uint32_t number, const Wwn& wwn) {
   const Vsan* vsan = find_vsan(fabric, number);
   if (vsan == nullptr) return refuse(status::kNotFound);
   if (!serves(fabric, *vsan)) return refuse(status::kNotRunning);
-  for (const DomainManager& domain : vsan->domains) {
-    if (is_running(*vsan, domain) && vsan_wwn(domain.switch_wwn, number) == wwn) {
-      return reply(write_element(*vsan, {wwn, &domain}));
-    }
-  }
-  return refuse(status::kNotFound);
+  const auto& elements = topology_of(fabric).elements_of(*vsan);
+  const auto found = std::lower_bound(elements.begin(), elements.end(), wwn, before);
+  if (found == elements.end() || found->wwn != wwn) return refuse(status::kNotFound);
+  return reply(write_element(*vsan, *found));
 }
 
 // The element after (VSAN, WWN); the table goes on in the next VSAN.
 Outcome next_element(const Fabric& fabric, uint32_t number, const Wwn& wwn) {
   if (const Vsan* vsan = find_vsan(fabric, number); vsan != nullptr && serves(fabric, *vsan)) {
-    for (const Element& element : elements_of(*vsan)) {
-      if (wwn < element.wwn) return reply(write_element(*vsan, element));
-    }
+    const auto& elements = topology_of(fabric).elements_of(*vsan);
+    const auto found = std::upper_bound(elements.begin(), elements.end(), wwn, after);
+    if (found != elements.end()) return reply(write_element(*vsan, *found));
   }
   for (const Vsan* vsan = next_vsan(fabric, number); vsan != nullptr;
        vsan = next_vsan(fabric, vsan->number)) {
-    if (serves(fabric, *vsan)) return reply(write_element(*vsan, elements_of(*vsan).front()));
+    if (!serves(fabric, *vsan)) continue;
+    return reply(write_element(*vsan, topology_of(fabric).elements_of(*vsan).front()));
   }
   return refuse(status::kEndOfTable);
 }
@@ -94,7 +84,7 @@ Outcome interconnect_elements(const Request& request, Fabric& fabric, VirtualTim
   if (vsan == nullptr) return refuse(status::kNotFound);
   if (!serves(fabric, *vsan)) return refuse(status::kNotRunning);
 
-  const auto elements = elements_of(*vsan);
+  const auto& elements = topology_of(fabric).elements_of(*vsan);
   ReplyWriter writer(4 + elements.size() * 12);
   writer.be32(0, static_cast<uint32_t>(elements.size()));
   for (size_t i = 0; i < elements.size(); ++i) {
@@ -128,16 +118,16 @@ Outcome switch_addresses(const Request& request, Fabric& fabric, VirtualTime /*n
   if (vsan == nullptr) return refuse(status::kNotFound);
   if (!serves(fabric, *vsan)) return refuse(status::kNotRunning);
 
-  const auto elements = elements_of(*vsan);
+  const auto& elements = topology_of(fabric).elements_of(*vsan);
   ReplyWriter writer(8 + elements.size() * kAddressSize);
   writer.be32(0, 1).be32(4, static_cast<uint32_t>(elements.size()));
   for (size_t i = 0; i < elements.size(); ++i) {
     const size_t entry = 8 + i * kAddressSize;
-    const Switch& owner = *find_switch(fabric, elements[i].domain->switch_wwn);
+    const Switch& owner = *find_switch(fabric, vsan->domains[elements[i].domain].switch_wwn);
     writer.wwn(entry, elements[i].wwn)
         .be32(entry + 8, static_cast<uint32_t>(owner.address.family))
         .raw(entry + 12, owner.address.bytes.data(), owner.address.bytes.size())
-        .u8(entry + 360, elements[i].domain->domain_id)
+        .u8(entry + 360, vsan->domains[elements[i].domain].domain_id)
         .text(entry + 364, 32, owner.name);
   }
   return reply(std::move(writer).take());

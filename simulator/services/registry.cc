@@ -4,6 +4,7 @@
 
 #include "simulator/local/platform_status.h"
 #include "simulator/services/services.h"
+#include "simulator/transport/port_messages.h"
 #include "simulator/transport/zone_server_messages.h"
 
 namespace switch_sim {
@@ -27,6 +28,20 @@ constexpr std::array kRows = {
     Row{Service::fabric_configuration, 1401, services::interconnect_elements},
     Row{Service::fabric_configuration, 1402, services::fabric_configuration_data},
     Row{Service::fabric_configuration, kSwitchAddresses, services::switch_addresses},
+    Row{Service::port_manager, kPortConfiguration, services::port_configuration},
+    Row{Service::port_manager, kPortAttribute, services::set_port_attribute},
+    Row{Service::port_manager, kTransceiver, services::transceiver},
+    Row{Service::port_manager, kPortCounters, services::port_counters},
+    Row{Service::port_manager, kPortChannelEntry, services::port_channel_entry},
+    Row{kIpConfiguration, kInterfaceAddress, services::interface_address},
+    Row{kIpStorage, kFcipOfEthernet, services::fcip_of_ethernet},
+    Row{kIpStorage, kEthernetOfFcip, services::ethernet_of_fcip},
+    Row{Service::fspf, kLinkStateRecord, services::link_state_record},
+    Row{kNameServer, kDeviceWithPortName, services::registered_devices},
+    Row{kNameServer, kDevicesWithNodeName, services::registered_devices},
+    Row{kNameServer, kDevicesBehindFabricPort, services::registered_devices},
+    Row{kNameServer, kDevicesOfPortType, services::registered_devices},
+    Row{kNameServer, kFc4Devices, services::fc4_devices},
     Row{Service::fabric_distribution, kDiscoverPeers, services::discover_peers},
     Row{Service::switch_identity, 1282, services::switch_identity},
     Row{Service::system_name, 878, services::set_system_name},

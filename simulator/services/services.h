@@ -40,6 +40,27 @@ Outcome interconnect_elements(const Request& request, Fabric& fabric, VirtualTim
 Outcome fabric_configuration_data(const Request& request, Fabric& fabric, VirtualTime now);
 Outcome switch_addresses(const Request& request, Fabric& fabric, VirtualTime now);
 
+// port_manager.cc
+Outcome port_configuration(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome transceiver(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome port_counters(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome port_channel_entry(const Request& request, Fabric& fabric, VirtualTime now);
+
+// port_attributes.cc
+Outcome set_port_attribute(const Request& request, Fabric& fabric, VirtualTime now);
+
+// ip_interfaces.cc
+Outcome interface_address(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome fcip_of_ethernet(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome ethernet_of_fcip(const Request& request, Fabric& fabric, VirtualTime now);
+
+// fspf.cc
+Outcome link_state_record(const Request& request, Fabric& fabric, VirtualTime now);
+
+// name_server.cc
+Outcome registered_devices(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome fc4_devices(const Request& request, Fabric& fabric, VirtualTime now);
+
 // fabric_distribution.cc
 Outcome discover_peers(const Request& request, Fabric& fabric, VirtualTime now);
 

@@ -85,6 +85,8 @@ TEST_F(FabricConfiguration, TheWalkOverElementsGoesOnInTheNextVsan) {
 
 TEST_F(FabricConfiguration, AWwnWhoseLastByteWrapsKeepsItsPlaceInTheWalk) {
   auto fabric = control::fabric();
+  fabric.links.clear();
+  fabric.devices.clear();
   fabric.switches.resize(2);
   for (auto& vsan : fabric.vsans) {
     vsan.domains.resize(2);

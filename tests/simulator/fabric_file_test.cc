@@ -155,6 +155,9 @@ TEST(FabricFile, TheExampleOfTheDocumentIsRead) {
   const Fabric fabric = fabric_of(text);
   EXPECT_EQ(2U, fabric.switches.size());
   EXPECT_EQ(switch_sim::VsanState::suspended, fabric.vsans.at(1).state);
+  EXPECT_EQ(17U, fabric.switches.at(0).interfaces.size());
+  EXPECT_EQ(1U, fabric.links.size());
+  EXPECT_EQ(1U, fabric.devices.size());
 }
 
 TEST(FabricFile, AnEmptyListIsWrittenInOneLine) {
@@ -350,8 +353,22 @@ INSTANTIATE_TEST_SUITE_P(
 
 // Every prefix of a file is read without harm and refused.
 TEST(FabricFile, EveryCutFileIsRefused) {
-  const std::string& text = kDefaultFile;
-  for (size_t length = 0; length + 2 < text.size(); ++length) {
+  const std::string text =
+      R"({"version": 1, "local_switch": "a",
+"switches": [{"name": "a", "wwn": "20:00:00:00:00:00:00:01", "address": "192.0.2.1",
+ "object_id": "1.3.6", "modules": [{"slot": 1, "kind": "fibre-channel", "ports": 4}],
+ "interfaces": [{"name": "fc1/1", "alias": "x", "optics": "none"},
+  {"name": "port-channel 1", "members": ["fc1/3", "fc1/4"]}]},
+ {"name": "b", "wwn": "20:00:00:00:00:00:00:02",
+  "modules": [{"slot": 1, "kind": "fibre-channel", "ports": 4}]}],
+"vsans": [{"number": 1, "domains": [{"switch": "a", "domain_id": 5}], "principal_switch": "a"}],
+"links": [{"ends": [{"switch": "a", "interface": "fc1/2"}, {"switch": "b", "interface": "fc1/2"}],
+ "trunk": [1, 2]}],
+"devices": [{"port_wwn": "21:00:00:00:00:00:00:01", "node_wwn": "20:00:00:00:00:00:00:01",
+ "switch": "a", "interface": "fc1/1", "fc_id": "0100", "fc4_types": [8]}]}
+)";
+  ASSERT_EQ("no error", error_of(text));
+  for (size_t length = 0; length + 1 < text.size(); ++length) {
     EXPECT_NE("no error", error_of(text.substr(0, length))) << length;
   }
 }
@@ -458,6 +475,19 @@ TEST_F(FabricState, EveryChangeIsSavedBeforeItIsAcknowledged) {
   saved = std::get<Fabric>(switch_sim::read_fabric_file(path));
   EXPECT_EQ(switch_sim::control::fabric(), saved);
   EXPECT_EQ("edge-8", saved.switches.at(0).name);
+}
+
+TEST_F(FabricState, AChangeOfAPortIsSaved) {
+  ASSERT_EQ(std::nullopt, switch_sim::control::keep_state_in(path));
+  // Speed of fc1/1, then a speed that is refused.
+  EXPECT_EQ(0, call(34, 0x11002, 3, Pattern(12).at(0, "0101000100000003000003e8").bytes()).status);
+  const std::string saved = content(path);
+  EXPECT_NE(std::string::npos,
+            saved.find("{\"name\": \"fc1/1\", \"alias\": \"host-a\", \"admin_state\": \"up\", "
+                       "\"vsan\": 1, \"mode\": \"auto\", \"speed\": 1000, "));
+  EXPECT_EQ(switch_sim::control::fabric(), fabric_of(saved));
+  EXPECT_EQ(0, call(34, 0x11002, 3, Pattern(12).at(0, "0101000100000003000003e9").bytes()).status);
+  EXPECT_EQ(saved, content(path));
 }
 
 TEST_F(FabricState, ASavedStateIsGoneOnFrom) {

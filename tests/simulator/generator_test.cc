@@ -1,6 +1,7 @@
 #include "simulator/fabric/generator.h"
 
 #include <fstream>
+#include <set>
 #include <sstream>
 
 #include "tests/simulator/simulator_fixture.h"
@@ -100,6 +101,64 @@ TEST(Generator, TheLargestFabricsAreMade) {
   EXPECT_EQ(0U, fabric_of("vsans=0").vsans.size());
 }
 
+TEST(Generator, EverySwitchHasThePortsAskedFor) {
+  for (const uint64_t ports : {1U, 16U, 17U, 240U, 241U, 768U}) {
+    const Fabric fabric = fabric_of(("switches=2,ports=" + std::to_string(ports)).c_str());
+    for (const auto& element : fabric.switches) {
+      uint64_t found = 0;
+      for (const auto& module : element.modules)
+        found += module.ports;
+      EXPECT_EQ(ports, found);
+      EXPECT_EQ(ports + 1, element.interfaces.size());  // and a management port
+    }
+  }
+}
+
+TEST(Generator, FabricsWithPortsKeepTheRulesAndAreReadBack) {
+  for (int seed = 0; seed < 12; ++seed) {
+    const std::string description =
+        "switches=" + std::to_string(seed % 6 + 1) + ",ports=" + std::to_string(seed * 7 + 9) +
+        ",vsans=4,devices=" + std::to_string(seed * 20) + ",seed=" + std::to_string(seed);
+    const Fabric fabric = fabric_of(description.c_str());
+    EXPECT_EQ(std::nullopt, switch_sim::problem_of(fabric)) << description;
+    EXPECT_EQ(static_cast<size_t>(seed * 20), fabric.devices.size());
+    const auto read = switch_sim::parse_fabric(switch_sim::write_fabric(fabric), "written");
+    ASSERT_TRUE(std::holds_alternative<Fabric>(read)) << std::get<FabricError>(read).message;
+    EXPECT_EQ(fabric, std::get<Fabric>(read)) << description;
+  }
+}
+
+TEST(Generator, EverySwitchIsJoinedToTheOthers) {
+  const Fabric fabric = fabric_of("switches=50,ports=48,vsans=1,seed=4");
+  std::set<switch_sim::Wwn> joined;
+  for (const auto& link : fabric.links) {
+    EXPECT_TRUE(link.trunking);
+    joined.insert(link.ends[0].switch_wwn);
+    joined.insert(link.ends[1].switch_wwn);
+  }
+  EXPECT_EQ(50U, joined.size());
+  EXPECT_GE(fabric.links.size(), 49U);
+}
+
+TEST(Generator, ManyDevicesShareLoops) {
+  const Fabric fabric = fabric_of("switches=3,ports=32,vsans=2,devices=2000,seed=2");
+  EXPECT_EQ(2000U, fabric.devices.size());
+  EXPECT_EQ(switch_sim::DeviceKind::nl_port, fabric.devices.front().kind);
+}
+
+TEST(Generator, TheSeedIsThatOfTheCounters) {
+  EXPECT_EQ(7U, fabric_of("ports=1,seed=7").counter_seed);
+  EXPECT_EQ(INT64_MAX,
+            static_cast<int64_t>(fabric_of("ports=1,seed=18446744073709551615").counter_seed));
+}
+
+TEST(Generator, DevicesWithoutRoomAreTold) {
+  EXPECT_EQ("devices: 1 do not fit behind the free ports", error_of("devices=1"));
+  EXPECT_EQ("no error", error_of("switches=1,ports=1,devices=126"));
+  EXPECT_EQ("devices: 127 do not fit behind the free ports",
+            error_of("switches=1,ports=1,devices=127"));
+}
+
 TEST(Generator, AWrongDescriptionIsTold) {
   EXPECT_EQ("expected a name, \"=\" and a number, found \"\"", error_of(""));
   EXPECT_EQ("expected a name, \"=\" and a number, found \"switches\"", error_of("switches"));
@@ -112,7 +171,7 @@ TEST(Generator, AWrongDescriptionIsTold) {
             error_of("switches=240"));
   EXPECT_EQ("vsans: expected a whole number from 0 to 4094, found \"4095\"",
             error_of("vsans=4095"));
-  EXPECT_EQ("ports: expected a whole number from 0 to 255, found \"256\"", error_of("ports=256"));
+  EXPECT_EQ("ports: expected a whole number from 0 to 768, found \"769\"", error_of("ports=769"));
   EXPECT_EQ("devices: expected a whole number from 0 to 100000, found \"-1\"",
             error_of("devices=-1"));
   EXPECT_EQ("seed: expected a whole number from 0 to 18446744073709551615, found \"7x\"",

@@ -100,8 +100,6 @@ TEST_F(TransportFunctions, AnUnknownOpcodeAndAnUnknownServiceAreToldApart) {
 }
 
 TEST_F(TransportFunctions, ServicesWithoutAModelAreNotAvailable) {
-  expect_refused(call(29, 53, 1, Pattern(36).bytes()), kServiceNotAvailable);
-  expect_refused(call(34, 620, 1, Pattern(268).bytes()), kServiceNotAvailable);
   expect_refused(call(39, 1026, 1, Pattern(4).bytes()), kServiceNotAvailable);
   expect_refused(call(39, 1029, 1, Pattern(4).bytes()), kServiceNotAvailable);
 }

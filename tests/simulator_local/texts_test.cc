@@ -103,6 +103,9 @@ TEST(StatusText, EveryStatusHasItsText) {
   EXPECT_STREQ("Request is not in the recording", syserr2str(0x4001000B));
   EXPECT_STREQ("Out of memory", syserr2str(0x4001000C));
   EXPECT_STREQ("No such system-information item", syserr2str(0x40490001));
+  EXPECT_STREQ("Attribute cannot be set on this interface", syserr2str(0x40150001));
+  EXPECT_STREQ("Interface belongs to a port channel", syserr2str(0x40150002));
+  EXPECT_STREQ("Query rejected by the name server", syserr2str(0x4025000A));
 }
 
 TEST(StatusText, EveryResultOfTheZoneServerHasAText) {
