@@ -123,7 +123,7 @@ std::pair<const char*, const char*> problem_of_places(const Switch& element,
   }
   const InterfaceType member =
       is_ethernet_channel(if_index) ? InterfaceType::ethernet : InterfaceType::fibre_channel;
-  if (interface.members.size() > kMostMembers) {
+  if (interface.members.size() > kMostChannelMembers) {
     return {"members", "a channel has at most 16 members"};
   }
   for (const uint32_t port : interface.members) {

@@ -22,7 +22,7 @@ inline constexpr uint32_t kLargestModuleSlot = 31;
 inline constexpr uint32_t kMostFcPorts = 63;
 inline constexpr uint32_t kMostEthernetPorts = 16;
 inline constexpr uint32_t kLargestChannelNumber = 254;
-inline constexpr size_t kMostMembers = 16;
+inline constexpr size_t kMostChannelMembers = 16;
 inline constexpr size_t kLongestAlias = 81;
 inline constexpr size_t kMostLoopDevices = 126;
 
