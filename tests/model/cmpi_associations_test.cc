@@ -1,8 +1,12 @@
 // The CMPI face's associations of two given references.
 #include <cim_utils/cmpi_connectivity.h>
 #include <cim_utils/cmpi_hardware.h>
+#include <cim_utils/cmpi_zoning.h>
 #include <gtest/gtest.h>
 
+#include <set>
+
+#include "schema/repository.h"
 #include "tests/support/capture.h"
 #include "tests/support/heap_ledger.h"
 #include "tests/support/os_double.h"
@@ -23,6 +27,7 @@ constexpr const char* kNamespace = "root/cimv2";
 
 struct Association {
   const char* stem;
+  const char* cls;
   Fill fill;
   Build build;
   const char* first;
@@ -30,30 +35,43 @@ struct Association {
 };
 
 constexpr Association kAssociations[] = {
-    {"hosted_dependency", hosted_dependency_fill_reference, hosted_dependency_build_instance,
+    {"hosted_dependency", "VEXOR_HostedDependency", hosted_dependency_fill_reference,
+     hosted_dependency_build_instance, "Antecedent", "Dependent"},
+    {"hosted_access_point", "VEXOR_HostedAccessPoint", hosted_access_point_fill_reference,
+     hosted_access_point_build_instance, "Antecedent", "Dependent"},
+    {"device_sap_implementation", "VEXOR_DeviceSAPImplementation",
+     device_sap_implementation_fill_reference, device_sap_implementation_build_instance,
      "Antecedent", "Dependent"},
-    {"hosted_access_point", hosted_access_point_fill_reference, hosted_access_point_build_instance,
+    {"active_connection", "VEXOR_ActiveConnection", active_connection_fill_reference,
+     active_connection_build_instance, "Antecedent", "Dependent"},
+    {"fcnode_member_collection", "VEXOR_FCNodeMemberOfCollection",
+     fcnode_member_collection_fill_reference, fcnode_member_collection_build_instance, "Collection",
+     "Member"},
+    {"connectivity_member_collection", "VEXOR_ConnectivityMemberOfCollection",
+     connectivity_member_collection_fill_reference, connectivity_member_collection_build_instance,
+     "Collection", "Member"},
+    {"system_device", "VEXOR_SystemDevice", system_device_fill_reference,
+     system_device_build_instance, "GroupComponent", "PartComponent"},
+    {"realize", "VEXOR_Realizes", realize_fill_reference, realize_build_instance, "Antecedent",
+     "Dependent"},
+    {"switch_package", "VEXOR_ComputerSystemPackage", switch_package_fill_reference_op,
+     switch_package_build_instance_op, "Antecedent", "Dependent"},
+    {"product_physical_element", "VEXOR_ProductPhysicalComponent",
+     product_physical_element_fill_reference, product_physical_element_build_instance,
+     "GroupComponent", "PartComponent"},
+    {"module_port", "VEXOR_ModulePort", module_port_fill_reference, module_port_build_instance,
+     "GroupComponent", "PartComponent"},
+    {"zmoc", "VEXOR_ZoneMemberOfCollection", zmoc_fill_reference_MemberCollection,
+     zmoc_build_instance_MemberCollection, "Collection", "Member"},
+    {"zhc", "VEXOR_ZoneHostedCollection", zone_hosted_collection_fill_reference, zhc_build_instance,
      "Antecedent", "Dependent"},
-    {"device_sap_implementation", device_sap_implementation_fill_reference,
-     device_sap_implementation_build_instance, "Antecedent", "Dependent"},
-    {"active_connection", active_connection_fill_reference, active_connection_build_instance,
-     "Antecedent", "Dependent"},
-    {"fcnode_member_collection", fcnode_member_collection_fill_reference,
-     fcnode_member_collection_build_instance, "Collection", "Member"},
-    {"connectivity_member_collection", connectivity_member_collection_fill_reference,
-     connectivity_member_collection_build_instance, "Collection", "Member"},
-    {"system_device", system_device_fill_reference, system_device_build_instance, "GroupComponent",
-     "PartComponent"},
-    {"realize", realize_fill_reference, realize_build_instance, "Antecedent", "Dependent"},
-    {"switch_package", switch_package_fill_reference_op, switch_package_build_instance_op,
-     "Antecedent", "Dependent"},
-    {"product_physical_element", product_physical_element_fill_reference,
-     product_physical_element_build_instance, "GroupComponent", "PartComponent"},
-    {"module_port", module_port_fill_reference, module_port_build_instance, "GroupComponent",
-     "PartComponent"},
 };
-constexpr Association kIdentity = {"logical_identity", logical_identity_fill_reference,
-                                   logical_identity_build_instance, "SystemElement", "SameElement"};
+constexpr Association kIdentity = {"logical_identity",
+                                   "VEXOR_LogicalIdentity",
+                                   logical_identity_fill_reference,
+                                   logical_identity_build_instance,
+                                   "SystemElement",
+                                   "SameElement"};
 
 std::vector<Association> all() {
   std::vector<Association> result(std::begin(kAssociations), std::end(kAssociations));
@@ -148,6 +166,22 @@ TEST_F(CmpiAssociations, AnInstanceOfABadPathOrInstanceIsNone) {
       broker_.fail_nth_instance(1, how);
       EXPECT_EQ(a.build("C", kNamespace, one_, two_, broker_), nullptr) << a.stem;
     }
+  }
+}
+
+TEST_F(CmpiAssociations, TheRolesAreTheKeysOfTheirClasses) {
+  cim::schema::Repository classes;
+  for (const auto& error : classes.add_file(std::string(CIM_SOURCE_DIR) + "/mof/vexor.mof"))
+    ADD_FAILURE() << error.text();
+  for (const Association& a : all()) {
+    const auto* cls = classes.find(a.cls);
+    ASSERT_NE(cls, nullptr) << a.cls;
+    std::set<std::string> keys;
+    for (const auto* key : classes.keys(*cls)) {
+      keys.insert(key->name);
+      EXPECT_EQ(cim::schema::type_name(key->type), "reference") << a.cls;
+    }
+    EXPECT_EQ(keys, (std::set<std::string>{a.first, a.second})) << a.cls;
   }
 }
 
