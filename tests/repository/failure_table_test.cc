@@ -69,7 +69,7 @@ std::set<std::string> exported_functions() {
   const auto list = repository::root() / "tests/exports/public_names.txt";
   for (const std::string& line : repository::lines(list)) {
     if (line.empty() || line.starts_with("#") || line.starts_with("data ")) continue;
-    result.insert(line.substr(0, line.find('(')));
+    result.insert(line.substr(0, line.find_first_of("(\t")));
   }
   return result;
 }
