@@ -260,9 +260,10 @@ Result add_member(int32_t q, uint32_t vsan, const Reference& collection, const R
   const char* instance_id = member->text("InstanceID");
   const auto id = read_member_id(instance_id);
   if (!id || id->vsan != vsan) return Result::invalid_parameter;
-  const auto packed = packed_member(q, instance_id);
-  if (!packed) return Result::not_found;
-  return add_packed(q, vsan, *holder, *packed);
+  const std::vector<zs_cim_zone_member_> found = zone_members_named(q, *member);
+  if (found.empty()) return Result::not_found;
+  const std::vector<PackedMember> forms = packed_forms(found[0]);
+  return forms.empty() ? Result::failed : add_packed(q, vsan, *holder, forms[0]);
 }
 
 Result activate_zone_set(int32_t q, uint32_t vsan, const Reference& zone_set, bool on) {

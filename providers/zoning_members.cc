@@ -5,11 +5,8 @@
 #include <cim_utils/zoning_changes.h>
 #include <cim_utils/zoning_identifiers.h>
 #include <cim_utils/zoning_queries.h>
-#include <malloc.h>
 #include <strings.h>
-#include <switch_platform/bitset.h>
 #include <switch_platform/records_zone_server.h>
-#include <switch_platform/zone_server.h>
 #include <switch_platform/zone_server_results.h>
 
 #include <algorithm>
@@ -34,32 +31,22 @@ struct ParentAccess;
 template <>
 struct ParentAccess<zs_zone_entry_> {
   using Record = zs_cim_zone_;
-  static constexpr zs_object_kind kKind = ZS_OBJECT_ZONE;
-  static constexpr zs_member_parent_kind kParentKind = ZS_MEMBER_PARENT_ZONE;
   static int32_t parents(int32_t q, const MemberId& id, const char* member, GSList** list) {
     return zs_cim_get_zone_member_zone_parents(q, id.vsan, id.active ? 1 : 0, member, list);
   }
   static int32_t convert(const zs_zone_entry_* entry, Record** record, bool active) {
     return zs_cim_convert_cmi_zone_to_cim_zone(entry, record, active ? 1 : 0, 1);
   }
-  static int32_t read(int32_t q, const ZoningId& id, int32_t* count, zs_zone_entry_** entry) {
-    return zs_cim_get_cmi_zone(q, id.object, id.vsan, id.active ? 1 : 0, count, entry);
-  }
 };
 
 template <>
 struct ParentAccess<zs_alias_entry_> {
   using Record = zs_cim_alias_;
-  static constexpr zs_object_kind kKind = ZS_OBJECT_ALIAS;
-  static constexpr zs_member_parent_kind kParentKind = ZS_MEMBER_PARENT_ALIAS;
   static int32_t parents(int32_t q, const MemberId& id, const char* member, GSList** list) {
     return zs_cim_get_zone_member_zone_alias_parents(q, id.vsan, id.active ? 1 : 0, member, list);
   }
   static int32_t convert(const zs_alias_entry_* entry, Record** record, bool active) {
     return zs_cim_convert_cmi_zone_alias_to_cim_zone_alias(entry, record, active ? 1 : 0, 1);
-  }
-  static int32_t read(int32_t q, const ZoningId& id, int32_t* count, zs_alias_entry_** entry) {
-    return zs_cim_get_cmi_zone_alias(q, id.object, id.vsan, id.active ? 1 : 0, count, entry);
   }
 };
 
@@ -102,67 +89,108 @@ bool is_text(zs_member_type type) {
          type == ZS_MEMBER_UNSIZED_TEXT;
 }
 
-// Takes a reply of zs_cmi_get_member apart. Result: none for one that holds no whole member.
-std::optional<PackedMember> unpack(const uint8_t* reply, size_t size) {
-  if (reply == nullptr || size <= sizeof(zs_member_entry_)) return std::nullopt;
-  zs_member_entry_ head;
-  std::memcpy(&head, reply, sizeof head);
-  PackedMember member{static_cast<zs_member_type>(head.type), 0, {}};
-  const size_t available = std::min(size - sizeof head, member.value.size() - 1);
-  std::copy_n(reply + sizeof head, available, member.value.begin());
-  member.length =
-      is_text(member.type)
-          ? static_cast<int32_t>(std::strlen(reinterpret_cast<const char*>(member.value.data()))) +
-                1
-          : get_member_value_length(member.type);
-  if (member.length < 0 ||
-      (!is_text(member.type) && static_cast<size_t>(member.length) > available))
-    return std::nullopt;
-  if (is_text(member.type))
-    std::fill(member.value.begin() + member.length, member.value.end(), uint8_t{0});
-  return member;
-}
-
-std::optional<PackedMember> read_member(int32_t q, const ZoningId& parent,
-                                        zs_member_parent_kind kind, uint32_t number) {
-  zs_context_ context{};
-  int32_t count = 1;
-  void* reply = nullptr;
-  const int32_t result = zs_cmi_get_member(q, 1, parent.vsan, &context, 0, parent.active ? 1 : 0,
-                                           kind, parent.object, number, &count, &reply, 0);
-  const std::unique_ptr<void, FreeBlock> owner(reply);
-  if (result != 0 || count < 1) return std::nullopt;
-  return unpack(static_cast<const uint8_t*>(reply), malloc_usable_size(reply));
-}
-
-bool has_name(const PackedMember& member, const ZoningId& parent, const char* instance_id) {
-  char own[ZS_CIM_INSTANCE_ID_ROOM] = {};
-  return zs_cim_get_member_instance_id(parent.vsan, member.type, member.value.data(),
-                                       parent.active ? 1 : 0, own) == 0 &&
-         strcasecmp(own, instance_id) == 0;
-}
-
-// Those of one zone or alias with that name. Long texts may share one.
-template <class Entry>
-std::vector<PackedMember> packed_members(int32_t q, const ZoningId& parent, const Entry& entry,
-                                         const char* member) {
-  std::vector<PackedMember> found;
-  for (int32_t bit = bitset_next_bit(entry.members, -1); bit >= 0;
-       bit = bitset_next_bit(entry.members, bit)) {
-    const auto each =
-        read_member(q, parent, ParentAccess<Entry>::kParentKind, static_cast<uint32_t>(bit) + 1);
-    if (each && has_name(*each, parent, member)) found.push_back(*each);
+// The types that are shown with a CIM type, the one that it is read back as first.
+std::vector<zs_member_type> types_shown_as(uint16_t cim_type) {
+  switch (cim_type) {
+    case ZS_CIM_MEMBER_PORT_WWN:
+      return {ZS_MEMBER_PORT_WWN};
+    case ZS_CIM_MEMBER_FCID:
+      return {ZS_MEMBER_FCID};
+    case ZS_CIM_MEMBER_DOMAIN_PORT:
+      return {ZS_MEMBER_DOMAIN_PORT};
+    case ZS_CIM_MEMBER_ALIAS:
+      return {ZS_MEMBER_ALIAS};
+    case ZS_CIM_MEMBER_LOCAL_INTERFACE:
+      return {ZS_MEMBER_LOCAL_INTERFACE};
+    case ZS_CIM_MEMBER_NODE_WWN:
+      return {ZS_MEMBER_NODE_WWN};
+    case ZS_CIM_MEMBER_IPV4:
+      return {ZS_MEMBER_IPV4};
+    case ZS_CIM_MEMBER_IPV6:
+      return {ZS_MEMBER_IPV6};
+    case ZS_CIM_MEMBER_DOMAIN_INTERFACE:
+      return {ZS_MEMBER_DOMAIN_INTERFACE};
+    case ZS_CIM_MEMBER_SYMBOLIC_NAME:
+      return {ZS_MEMBER_SYMBOLIC_NAME, ZS_MEMBER_TEXT};
+    case ZS_CIM_MEMBER_UNSIZED_TEXT:
+      return {ZS_MEMBER_UNSIZED_TEXT};
+    case ZS_CIM_MEMBER_WWN_LUN:
+      return {ZS_MEMBER_WWN_LUN, ZS_MEMBER_WWN_LUN_2};
+    case ZS_CIM_MEMBER_FCID_LUN:
+      return {ZS_MEMBER_FCID_LUN, ZS_MEMBER_FCID_LUN_2};
+    default:
+      return {};
   }
-  return found;
 }
 
-template <class Entry>
-std::optional<PackedMember> first_packed_member(int32_t q, const MemberId& id, const char* member) {
-  for (const Entry& entry : parent_entries<Entry>(q, id, member)) {
-    const auto found = packed_members(q, {id.vsan, entry.object_id, id.active}, entry, member);
-    if (!found.empty()) return found[0];
+// The text of the value inside an instance id: between the second circumflex and the last.
+std::string key_text(const char* instance_id) {
+  const std::string_view text = instance_id;
+  const size_t second = text.find('^', text.find('^') + 1);
+  return std::string(text.substr(second + 1, text.rfind('^') - second - 1));
+}
+
+bool read_byte(std::string_view text, uint8_t& byte) {
+  const auto [stopped, error] = std::from_chars(text.data(), text.data() + text.size(), byte);
+  return error == std::errc{} && stopped == text.data() + text.size();
+}
+
+// The library's reader takes no domain and no port 0, which the zone server may hold.
+bool pack_domain_port(const std::string& text, PackedMember& member) {
+  const size_t colon = text.find(':');
+  return colon != std::string::npos && read_byte(text.substr(0, colon), member.value[0]) &&
+         read_byte(text.substr(colon + 1), member.value[3]);
+}
+
+// Written "fc1/5: 7", read "fc1/5;7".
+bool pack_domain_interface(const std::string& text, PackedMember& member) {
+  const size_t colon = text.rfind(':');
+  if (colon == std::string::npos) return false;
+  const size_t domain = text.find_first_not_of(' ', colon + 1);
+  if (domain == std::string::npos) return false;
+  const std::string reference = text.substr(0, colon) + ";" + text.substr(domain);
+  return get_member_value_from_cim_member_type_value(reference.c_str(), member.type,
+                                                     member.value.data()) == 0;
+}
+
+// Read without the length of the prefix, which stands behind a slash unless it is 128.
+bool pack_ipv6(const std::string& text, PackedMember& member) {
+  const size_t slash = text.find('/');
+  if (get_member_value_from_cim_member_type_value(text.substr(0, slash).c_str(), member.type,
+                                                  member.value.data()) != 0)
+    return false;
+  uint8_t prefix = 0;
+  if (slash == std::string::npos) return true;
+  if (!read_byte(text.substr(slash + 1), prefix)) return false;
+  const uint32_t word = prefix;
+  std::memcpy(member.value.data() + 20, &word, sizeof word);
+  return true;
+}
+
+bool pack(const zs_cim_zone_member_& record, PackedMember& member) {
+  if (is_text(member.type)) {
+    // The key holds the first 63 characters only.
+    const size_t size = strnlen(record.member_id, sizeof record.member_id - 1);
+    std::memcpy(member.value.data(), record.member_id, size);
+    member.length = static_cast<int32_t>(size) + 1;
+    return size > 0;
   }
-  return std::nullopt;
+  member.length = get_member_value_length(member.type);
+  const std::string text = key_text(record.instance_id);
+  switch (member.type) {
+    case ZS_MEMBER_DOMAIN_PORT:
+      return pack_domain_port(text, member);
+    case ZS_MEMBER_DOMAIN_INTERFACE:
+      return pack_domain_interface(text, member);
+    case ZS_MEMBER_IPV6:
+      return pack_ipv6(text, member);
+    case ZS_MEMBER_LOCAL_INTERFACE:  // written as a WWN, though read as an interface's name
+      return get_member_value_from_cim_member_type_value(text.c_str(), ZS_MEMBER_PORT_WWN,
+                                                         member.value.data()) == 0;
+    default:
+      return get_member_value_from_cim_member_type_value(text.c_str(), member.type,
+                                                         member.value.data()) == 0;
+  }
 }
 
 int32_t remove_packed(int32_t q, zs_object_kind kind, const ZoningId& parent,
@@ -177,38 +205,25 @@ int32_t remove_packed(int32_t q, zs_object_kind kind, const ZoningId& parent,
   return error != 0 ? error : -1;
 }
 
-// Result: 0, or the first that the zone server refused with.
-template <class Entry>
-int32_t remove_from_entry(int32_t q, const ZoningId& parent, const Entry& entry,
-                          const char* member) {
-  const auto found = packed_members(q, parent, entry, member);
-  int32_t result = found.empty() ? ZS_NO_SUCH_MEMBER : 0;
-  for (const PackedMember& each : found) {
-    const int32_t removed = remove_packed(q, ParentAccess<Entry>::kKind, parent, each);
-    if (result == 0) result = removed;
+int32_t remove_record(int32_t q, zs_object_kind kind, const ZoningId& parent,
+                      const zs_cim_zone_member_& record) {
+  int32_t result = ZS_BAD_MEMBER;
+  for (const PackedMember& form : packed_forms(record)) {
+    result = remove_packed(q, kind, parent, form);
+    if (result != ZS_NO_SUCH_MEMBER) return result;
   }
   return result;
 }
 
-template <class Entry>
-int32_t remove_from_object(int32_t q, const ZoningId& parent, const char* member) {
-  int32_t count = 0;
-  Entry* array = nullptr;
-  const int32_t result = ParentAccess<Entry>::read(q, parent, &count, &array);
-  const std::vector<Entry> entries = take_array(array, count);
-  if (result != 0) return result;
-  if (entries.empty()) return ZS_NO_SUCH_OBJECT;
-  return remove_from_entry(q, parent, entries[0], member);
-}
-
-// Goes on where one is refused. Result: the first refusal.
-template <class Entry>
-int32_t remove_from_all(int32_t q, const MemberId& id, const char* member) {
+// From every zone or every alias that holds it; goes on where the zone server refuses. Result: its
+// first refusal.
+int32_t remove_from_all(int32_t q, zs_object_kind kind, const char* member) {
   int32_t result = 0;
-  for (const Entry& entry : parent_entries<Entry>(q, id, member)) {
-    const int32_t removed =
-        remove_from_entry(q, {id.vsan, entry.object_id, id.active}, entry, member);
-    if (result == 0 && removed != ZS_NO_SUCH_MEMBER) result = removed;
+  for (const ZoningObject& parent : parents_of_member(q, kind, member)) {
+    const auto id = read_zoning_id(instance_id_of(parent));
+    const int32_t removed = id ? remove_member_from(q, kind, *id, member) : -1;
+    // Somebody else was faster.
+    if (result == 0 && !is_not_there(removed)) result = removed;
   }
   return result;
 }
@@ -295,8 +310,8 @@ void delete_zone_member(int32_t q, const zs_cim_zone_member_& member) {
   const auto id = read_member_id(member.instance_id);
   if (!id) throw Failure(CMPI_RC_ERR_FAILED, "%.200s is no zone member", member.instance_id);
   check_editable(id->active, "zone member", member.instance_id);
-  const int32_t from_zones = remove_from_all<zs_zone_entry_>(q, *id, member.instance_id);
-  const int32_t from_aliases = remove_from_all<zs_alias_entry_>(q, *id, member.instance_id);
+  const int32_t from_zones = remove_from_all(q, ZS_OBJECT_ZONE, member.instance_id);
+  const int32_t from_aliases = remove_from_all(q, ZS_OBJECT_ALIAS, member.instance_id);
   const int32_t result = from_zones != 0 ? from_zones : from_aliases;
   if (result != 0)
     throw Failure(cim_status(result),
@@ -329,18 +344,29 @@ std::vector<ZoningObject> parents_of_member(int32_t q, zs_object_kind kind,
                                 : parents<zs_alias_entry_>(q, *id, member_instance_id);
 }
 
-std::optional<PackedMember> packed_member(int32_t q, const char* member_instance_id) {
-  const auto id = read_member_id(member_instance_id);
-  if (!id) return std::nullopt;
-  const auto in_zone = first_packed_member<zs_zone_entry_>(q, *id, member_instance_id);
-  return in_zone ? in_zone : first_packed_member<zs_alias_entry_>(q, *id, member_instance_id);
+std::vector<PackedMember> packed_forms(const zs_cim_zone_member_& member) {
+  std::vector<PackedMember> forms;
+  for (const zs_member_type type : types_shown_as(member.member_type)) {
+    PackedMember form{type, 0, {}};
+    if (pack(member, form)) forms.push_back(form);
+  }
+  return forms;
 }
 
 int32_t remove_member_from(int32_t q, zs_object_kind kind, const ZoningId& parent,
                            const char* member_instance_id) {
-  return kind == ZS_OBJECT_ZONE
-             ? remove_from_object<zs_zone_entry_>(q, parent, member_instance_id)
-             : remove_from_object<zs_alias_entry_>(q, parent, member_instance_id);
+  char parent_id[ZS_CIM_INSTANCE_ID_ROOM];
+  zs_cim_get_generic_instance_id(static_cast<int32_t>(parent.vsan),
+                                 static_cast<int32_t>(parent.object), parent.active ? 1 : 0,
+                                 parent_id);
+  // Long texts may share an instance id.
+  int32_t result = ZS_NO_SUCH_MEMBER;
+  for (const zs_cim_zone_member_& member : members_of(q, kind, parent_id)) {
+    if (strcasecmp(member.instance_id, member_instance_id) != 0) continue;
+    const int32_t removed = remove_record(q, kind, parent, member);
+    if (result == ZS_NO_SUCH_MEMBER || result == 0) result = removed;
+  }
+  return result;
 }
 
 }  // namespace vexor::providers

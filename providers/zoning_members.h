@@ -51,17 +51,18 @@ std::vector<zs_cim_zone_member_> members_of(int32_t q, zs_object_kind kind,
 std::vector<ZoningObject> parents_of_member(int32_t q, zs_object_kind kind,
                                             const char* member_instance_id);
 
-// A member as the zone server packs it. Texts end in a zero, which the length counts.
+// A member as the zone server packs it. The length of a text counts the zero behind it.
 struct PackedMember {
   zs_member_type type;
   int32_t length;
   std::array<uint8_t, ZS_CIM_VALUE_ROOM> value;
 };
 
-// Any member with that name, packed; none when no zone or alias holds one.
-std::optional<PackedMember> packed_member(int32_t q, const char* member_instance_id);
+// What the zone server may hold a member as. CIM shows some of its types as one, so there may be
+// two; the first is the one that new members get. None when the record's texts make no value.
+std::vector<PackedMember> packed_forms(const zs_cim_zone_member_& member);
 
-// Removes the member from one zone or alias. Result: 0 or the zone server's.
+// Removes the member from one zone or alias of the full database. Result: 0 or the zone server's.
 int32_t remove_member_from(int32_t q, zs_object_kind kind, const ZoningId& parent,
                            const char* member_instance_id);
 
