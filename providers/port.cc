@@ -1,8 +1,6 @@
 #include "providers/port.h"
 
 #include <cim_utils/cmpi_ports.h>
-#include <cim_utils/name_server.h>
-#include <cim_utils/wwn_rules.h>
 
 #include <unordered_set>
 
@@ -32,33 +30,6 @@ template <class... Builders>
 struct Overloaded : Builders... {
   using Builders::operator()...;
 };
-
-// The WWN of a port channel's interface need not tell its index.
-std::vector<OwnPort> own_ports_with_wwn(int32_t q, const wwn_& wwn) {
-  const auto has_wwn = [&wwn](const OwnPort& port) {
-    const wwn_ own = port.info.wwn;
-    return same_wwn(own, wwn);
-  };
-  uint32_t if_index = 0;
-  if (wwn_cim_get_port_index_from_wwn_hex(&if_index, wwn.bytes, 0) == 0)
-    for (const OwnPort& port : own_port(q, PortKind::fibre_channel, if_index))
-      if (has_wwn(port)) return {port};
-  std::vector<OwnPort> found;
-  for (const OwnPort& port : own_ports(q, PortKind::fibre_channel))
-    if (found.empty() && has_wwn(port)) found.push_back(port);
-  return found;
-}
-
-// Ports that share a WWN have one endpoint; those without a WWN have none.
-std::vector<OwnPort> own_endpoints(int32_t q) {
-  std::vector<OwnPort> found;
-  std::unordered_set<uint64_t> listed;
-  for (const OwnPort& port : own_ports(q, PortKind::fibre_channel)) {
-    const wwn_ wwn = port.info.wwn;
-    if (number_of(wwn) != 0 && listed.insert(number_of(wwn)).second) found.push_back(port);
-  }
-  return found;
-}
 
 // Both ends of every link by their names. Ends without one share an endpoint for each switch.
 std::vector<LinkEnd> link_endpoints(int32_t q, const std::vector<uint32_t>& vsans) {
@@ -133,7 +104,7 @@ uint32_t request_port_state(int32_t q, const Port& port, const Arguments& argume
 
 std::vector<Port> endpoints(int32_t q) {
   std::vector<Port> found;
-  add(own_endpoints(q), found);
+  add(own_ports_with_wwns(q), found);
   const std::vector<uint32_t> vsans = running_vsans(q);
   add(link_endpoints(q, vsans), found);
   add(attachment_endpoints(registrations(q, vsans)), found);

@@ -10,6 +10,7 @@
 
 #include "providers/computer_system.h"
 #include "providers/port_blocks.h"
+#include "providers/port_own.h"
 #include "providers/queue.h"
 #include "providers/vsan.h"
 #include "providers/wwn.h"
@@ -227,9 +228,11 @@ CMPIObjectPath* link_end_reference(const Target& target, const LinkEnd& end) {
 }
 
 CMPIInstance* link_end_instance(const Target& target, const LinkEnd& end) {
-  return fcport_build_instance_fspf_wwn(0, target.class_name, target.name_space, &end.link,
-                                        end.switch_wwn.bytes, end.physical, kFlag, end.local,
-                                        target.properties, target.broker);
+  CMPIInstance* instance = fcport_build_instance_fspf_wwn(
+      0, target.class_name, target.name_space, &end.link, end.switch_wwn.bytes, end.physical, kFlag,
+      end.local, target.properties, target.broker);
+  if (instance != nullptr) complete_port_number(target, interface_of(end), instance);
+  return instance;
 }
 
 // ---- endpoints ----

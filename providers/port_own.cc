@@ -3,6 +3,7 @@
 #include <cim_utils/cmpi_ports.h>
 #include <cim_utils/name_server.h>
 #include <cim_utils/port_manager.h>
+#include <cim_utils/wwn_rules.h>
 #include <switch_platform/if_index.h>
 #include <switch_platform/port_manager.h>
 
@@ -36,8 +37,24 @@ bool wants(const Target& target, const char* property) {
   return target.properties == nullptr || is_in(property, target.properties);
 }
 
+// Ethernet ports and channels and the management port have a MAC address in its place.
+bool has_wwn(const pm_port_info_& info) {
+  switch (type_of(info.if_index)) {
+    case PM_IF_FC:
+    case PM_IF_FCIP:
+    case PM_IF_ISCSI:
+      return true;
+    case PM_IF_PORT_CHANNEL:
+      return pm_is_ether_channel(info.if_index) == 0;
+    default:
+      return false;
+  }
+}
+
 // Whether devices log in at the port.
 bool is_fabric_port(const pm_port_info_& info) {
+  if (!has_wwn(info)) return false;
+  if (type_of(info.if_index) == PM_IF_ISCSI) return true;
   constexpr uint16_t kF = 15;
   constexpr uint16_t kFl = 16;
   const uint16_t type = pm_cim_convert_port_mode(info.oper_mode);
@@ -150,6 +167,21 @@ std::optional<uint16_t> wanted_type(const OwnPort& port, const NewValues& values
                 "RequestedType is %.40s, not 4, 5, 6, 17001, 17002, 17016 or 17064", text.c_str());
 }
 
+// visit(const pm_port_info_&) for every interface, until it says false.
+template <class Visit>
+void for_each_own_port(int32_t q, Visit visit) {
+  std::unordered_set<uint32_t> seen;  // the indexes of one type may stand before those of another
+  for (uint32_t if_index = 0;;) {
+    pm_port_info_* info = nullptr;
+    if (pm_cim_get_port_info(&info, 0, if_index, q) != 0) break;
+    const CBlock<pm_port_info_> owner(info);
+    if_index = info->if_index;
+    if (!seen.insert(if_index).second || !visit(*info)) return;
+  }
+  if (seen.empty())
+    throw Failure(CMPI_RC_ERR_FAILED, "the port manager does not give the switch's interfaces");
+}
+
 }  // namespace
 
 // ---- reading ----
@@ -169,18 +201,36 @@ PortKind kind_of(uint32_t if_index) {
 
 std::vector<OwnPort> own_ports(int32_t q, PortKind kind) {
   std::vector<OwnPort> ports;
-  std::unordered_set<uint32_t> seen;  // indexes of one type follow those of another in any order
-  for (uint32_t if_index = 0;;) {
-    pm_port_info_* info = nullptr;
-    if (pm_cim_get_port_info(&info, 0, if_index, q) != 0) break;
-    const CBlock<pm_port_info_> owner(info);
-    if_index = info->if_index;
-    if (!seen.insert(if_index).second) break;
-    if (kind_of(if_index) == kind) ports.push_back({*info, nullptr});
-  }
-  if (seen.empty())
-    throw Failure(CMPI_RC_ERR_FAILED, "the port manager does not give the switch's interfaces");
+  for_each_own_port(q, [&](const pm_port_info_& info) {
+    if (kind_of(info.if_index) == kind) ports.push_back({info, nullptr});
+    return true;
+  });
   return ports;
+}
+
+std::vector<OwnPort> own_ports_with_wwns(int32_t q) {
+  std::vector<OwnPort> ports;
+  std::unordered_set<uint64_t> listed;
+  for_each_own_port(q, [&](const pm_port_info_& info) {
+    if (has_wwn(info) && listed.insert(number_of(info.wwn)).second)
+      ports.push_back({info, nullptr});
+    return true;
+  });
+  return ports;
+}
+
+std::vector<OwnPort> own_ports_with_wwn(int32_t q, const wwn_& wwn) {
+  uint32_t if_index = 0;
+  std::vector<OwnPort> found;
+  if (wwn_cim_get_port_index_from_wwn_hex(&if_index, wwn.bytes, 0) == 0)
+    found = own_port(q, kind_of(if_index), if_index);
+  if (!found.empty() && has_wwn(found[0].info) && same_wwn(found[0].info.wwn, wwn)) return found;
+  found.clear();
+  for_each_own_port(q, [&](const pm_port_info_& info) {
+    if (has_wwn(info) && same_wwn(info.wwn, wwn)) found.push_back({info, nullptr});
+    return found.empty();
+  });
+  return found;
 }
 
 std::vector<OwnPort> own_port(int32_t q, PortKind kind, uint32_t if_index) {
@@ -209,6 +259,13 @@ std::vector<OwnPort> own_ports_with_id(int32_t q, const ObjectName& name) {
 
 // ---- building ----
 
+void complete_port_number(const Target& target, uint32_t if_index, CMPIInstance* instance) {
+  if (!wants(target, "PortNumber")) return;
+  if (pm_cim_get_port_number_from_ifIndex(if_index, nullptr) != 0) return;
+  const CMPIValue number{.uint16 = 0};
+  instance->ft->setProperty(instance, "PortNumber", &number, CMPI_uint16);
+}
+
 CMPIObjectPath* own_port_reference(const Target& target, const OwnPort& port) {
   return fcport_fill_reference_pm(target.name_space, target.class_name, &port.info, target.broker);
 }
@@ -216,9 +273,10 @@ CMPIObjectPath* own_port_reference(const Target& target, const OwnPort& port) {
 CMPIInstance* own_port_instance(const Target& target, const OwnPort& port) {
   CMPIInstance* instance = fcport_build_instance_pm(target.class_name, target.name_space,
                                                     &port.info, target.properties, target.broker);
+  if (instance == nullptr) return nullptr;
+  complete_port_number(target, port.info.if_index, instance);
   wwn_ device;
-  if (instance != nullptr && is_fabric_port(port.info) && wants(target, "PeerPortWWN") &&
-      kind_of(port.info.if_index) == PortKind::fibre_channel &&
+  if (is_fabric_port(port.info) && wants(target, "PeerPortWWN") &&
       device_behind(queue::handle(), port, device)) {
     const std::string text = text_of(device);
     instance->ft->setProperty(instance, "PeerPortWWN",

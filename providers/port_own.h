@@ -37,6 +37,12 @@ PortKind kind_of(uint32_t if_index);
 // which no switch has.
 std::vector<OwnPort> own_ports(int32_t q, PortKind kind);
 
+// Those of both kinds that have a WWN, each WWN once.
+std::vector<OwnPort> own_ports_with_wwns(int32_t q);
+
+// The one with the WWN. It is read alone where the WWN tells its interface index.
+std::vector<OwnPort> own_ports_with_wwn(int32_t q, const wwn_& wwn);
+
 // The one with the interface index, if it is of the kind.
 std::vector<OwnPort> own_port(int32_t q, PortKind kind, uint32_t if_index);
 
@@ -45,8 +51,12 @@ std::vector<OwnPort> own_ports_named(int32_t q, PortKind kind, const ObjectName&
 std::optional<uint32_t> id_of(const ObjectName& name);
 std::vector<OwnPort> own_ports_with_id(int32_t q, const ObjectName& name);
 
+// The library shows the interface index as the "PortNumber" of port 0, which no such number can
+// hold: sets it to 0.
+void complete_port_number(const Target& target, uint32_t if_index, CMPIInstance* instance);
+
 CMPIObjectPath* own_port_reference(const Target& target, const OwnPort& port);
-// With "PeerPortWWN" for an F or FL port, too: the first of the devices behind it.
+// With "PeerPortWWN" for a port that devices log in at, too: the first of the devices behind it.
 CMPIInstance* own_port_instance(const Target& target, const OwnPort& port);
 
 // What a client may change of a port: its alias, which it sends as "ElementName" and sees as
