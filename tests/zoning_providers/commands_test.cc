@@ -77,9 +77,9 @@ TEST_F(ZoningCommands, AssociationsAreCreatedAndDeleted) {
 
 TEST_F(ZoningCommands, ObjectsAreMadeByMethodsOnlyAndNotModified) {
   expect(command({"create", "VEXOR_Zone", "ElementName=web"}), 1, "",
-         "vexor-cim: VEXOR_Zone: instances of VEXOR_Zone cannot be created\n");
+         "vexor-cim: instances of VEXOR_Zone cannot be created\n");
   expect(command({"modify", "VEXOR_Zone.InstanceID=\"1_1_0\"", "ElementName=web"}), 1, "",
-         "vexor-cim: VEXOR_Zone: instances of VEXOR_Zone cannot be modified\n");
+         "vexor-cim: instances of VEXOR_Zone cannot be modified\n");
 }
 
 TEST_F(ZoningCommands, TheZoningOfTheDefaultFabricIsShown) {
