@@ -12,6 +12,7 @@
 #include <cstring>
 
 #include "providers/queue.h"
+#include "providers/wwn.h"
 
 namespace vexor::providers {
 namespace {
@@ -33,22 +34,10 @@ struct FreeList {
   void operator()(GSList* list) const { cim_g_slist_destroy(list, nullptr); }
 };
 
-bool same_wwn(const wwn_& a, const wwn_& b) {
-  return std::memcmp(a.bytes, b.bytes, sizeof a.bytes) == 0;
-}
-
 PhysicalSwitch device(const wwn_& wwn, bool remote) {
   PhysicalSwitch made{{}, remote};
   cim_sprintf_wwn(made.wwn, &wwn);
   return made;
-}
-
-// A WWN as the library writes it. Result: false for any other text.
-bool read_wwn(const char* text, wwn_& wwn) {
-  wwn = {};
-  return text != nullptr && std::strlen(text) == kWwnText &&
-         wwn_cim_get_hex_from_str_wwn(text, &wwn) == 0 &&
-         std::strcmp(device(wwn, false).wwn, text) == 0;
 }
 
 wwn_ own_wwn(int32_t q) {
@@ -81,18 +70,6 @@ bool find_device(int32_t q, uint32_t vsan, const wwn_& device_wwn, fcs_cim_ie_& 
   const wwn_ shown = wwn_in_vsan(vsan, device_wwn);
   return find_element(q, vsan, shown, element) ||
          (!same_wwn(shown, device_wwn) && find_element(q, vsan, device_wwn, element));
-}
-
-std::vector<fcs_cim_ie_> elements_of(int32_t q, uint32_t vsan) {
-  int32_t count = 0;
-  fcs_cim_ie_* elements = nullptr;
-  const int32_t status = fcs_cim_get_ie_entries_in_vsan(q, vsan, &count, &elements);
-  const std::unique_ptr<fcs_cim_ie_, FreeBlock> owner(elements);
-  if (status != 0)
-    throw Failure(CMPI_RC_ERR_FAILED,
-                  "the fabric configuration server does not give the switches of VSAN %u", vsan);
-  if (elements == nullptr || count <= 0) return {};
-  return {elements, elements + count};
 }
 
 // visit(const vsanNewEntry_t&) for the VSANs that are up, in rising order, until it says false.
@@ -162,6 +139,18 @@ void set_name_of_remote_switch(CMPIInstance* instance, const char* wwn_text) {
 }
 
 }  // namespace
+
+std::vector<fcs_cim_ie_> elements_of(int32_t q, uint32_t vsan) {
+  int32_t count = 0;
+  fcs_cim_ie_* elements = nullptr;
+  const int32_t status = fcs_cim_get_ie_entries_in_vsan(q, vsan, &count, &elements);
+  const std::unique_ptr<fcs_cim_ie_, FreeBlock> owner(elements);
+  if (status != 0)
+    throw Failure(CMPI_RC_ERR_FAILED,
+                  "the fabric configuration server does not give the switches of VSAN %u", vsan);
+  if (elements == nullptr || count <= 0) return {};
+  return {elements, elements + count};
+}
 
 // ---- devices ----
 

@@ -16,6 +16,10 @@ namespace vexor::providers {
 // The number of characters of a WWN as text.
 inline constexpr size_t kWwnText = 16;
 
+// Every switch of a VSAN, each with its domain: one exchange with the configuration server, and one
+// more for each. Throws Failure when the server does not tell them.
+std::vector<fcs_cim_ie_> elements_of(int32_t q, uint32_t vsan);
+
 // ---- devices ----
 
 struct PhysicalSwitch {

@@ -25,6 +25,7 @@ constexpr const char* kExamples =
     "  vexor-cim enumerate VEXOR_Vsan                  all VSANs, one a line\n"
     "  vexor-cim enumerate VEXOR_Vsan --format json    the same for a program\n"
     "  vexor-cim enumerate VEXOR_Vsan --names          the paths that `get` takes\n"
+    "  vexor-cim ports                                 the ports and what is plugged in\n"
     "  vexor-cim get 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"'\n"
     "  vexor-cim associators 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"'\n"
     "  vexor-cim modify 'VEXOR_FCSwitchSettings.InstanceID=\"2000000DEC0A1B2C\"' "
@@ -69,6 +70,19 @@ constexpr const char* kGetExamples =
     "Examples:\n"
     "  vexor-cim get 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"'\n"
     "  vexor-cim get 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"' --properties Status --format json";
+
+constexpr const char* kPortsExamples =
+    "What is plugged into the switch, a line for each of its ports:\n"
+    "  mode   E to a switch, F to a device, FL to a loop of devices, eth for Ethernet\n"
+    "  state  up, down, disabled by an administrator, or no optics or bad optics in the port\n"
+    "  peer   the switch and interface at the other end; or the description of the port and the\n"
+    "         WWN of the device there\n"
+    "\n"
+    "Examples:\n"
+    "  vexor-cim ports\n"
+    "  vexor-cim enumerate VEXOR_FCPortStatistics      what the ports have counted\n"
+    "  vexor-cim modify 'VEXOR_FCPortSettings.InstanceID=\"16842753\"' "
+    "RequestedSpeed=1062500000";
 
 constexpr const char* kAssociatorsExamples =
     "Examples:\n"
@@ -276,6 +290,9 @@ void add_reading_commands(Commands& commands, Options& options) {
   add_class(enumerate, "CLASS", options);
   enumerate.add_flag("--names", options.names, "print the paths of the instances only");
   add_output_options(enumerate, options);
+
+  commands.add(Command::ports, "ports", "print the ports of the switch and what is plugged in",
+               kPortsExamples);
 
   CLI::App& get = commands.add(Command::get, "get", "print one instance", kGetExamples);
   add_path(get, options);

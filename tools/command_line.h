@@ -15,6 +15,7 @@ enum class Command {
   show_class,
   enumerate,
   get,
+  ports,
   associators,
   associator_names,
   references,

@@ -16,6 +16,7 @@
 #include "tools/locations.h"
 #include "tools/output.h"
 #include "tools/platform.h"
+#include "tools/ports_command.h"
 #include "tools/streams.h"
 #include "tools/switch_command.h"
 
@@ -303,6 +304,8 @@ Outcome run_command(ObjectManager& manager, const Options& options) {
       return {enumerate(manager, options)};
     case Command::get:
       return {get(manager, options)};
+    case Command::ports:
+      return {ports_table(manager, options.name_space)};
     case Command::associators:
     case Command::references:
       return {associated(manager, options)};
