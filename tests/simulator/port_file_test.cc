@@ -88,7 +88,7 @@ TEST(PortFile, WhatIsLeftOutHasItsUsualValue) {
   const auto* management = find_interface(fabric.switches.at(0), 0x05000001);
   ASSERT_NE(nullptr, management);
   EXPECT_FALSE(management->cable);
-  EXPECT_EQ(1500, management->mtu);
+  EXPECT_EQ(1500, +management->mtu);
   EXPECT_EQ(1U, fabric.counter_seed);
 }
 

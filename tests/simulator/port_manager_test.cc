@@ -165,16 +165,16 @@ TEST_F(PortManager, TheClientGivesNumbersInHostOrder) {
   ASSERT_NE(nullptr, info);
   EXPECT_EQ(0, status);
   EXPECT_EQ(1, count);
-  EXPECT_EQ(0x01010002U, info->if_index);
-  EXPECT_EQ(0U, info->status);
+  EXPECT_EQ(0x01010002U, +info->if_index);
+  EXPECT_EQ(0U, +info->status);
   EXPECT_STREQ("switch-2", info->name);
-  EXPECT_EQ(1U, info->admin_mode);
-  EXPECT_EQ(0U, info->admin_speed);
+  EXPECT_EQ(1U, +info->admin_mode);
+  EXPECT_EQ(0U, +info->admin_speed);
   EXPECT_EQ(1, info->admin_state);
-  EXPECT_EQ(2112, info->mtu);
-  EXPECT_EQ(1U, info->vsan);
-  EXPECT_EQ(4U, info->oper_mode);
-  EXPECT_EQ(2000U, info->oper_speed);
+  EXPECT_EQ(2112, +info->mtu);
+  EXPECT_EQ(1U, +info->vsan);
+  EXPECT_EQ(4U, +info->oper_mode);
+  EXPECT_EQ(2000U, +info->oper_speed);
   EXPECT_EQ(1, info->oper_state);
   EXPECT_EQ(1, info->phy_enable_state);
   EXPECT_EQ(1, info->fcot_present);
@@ -195,21 +195,21 @@ TEST_F(PortManager, APortThatIsSetDownOrHasNoOpticsIsNotEnabled) {
   const pm_port_info_* unused = port(0x01010009);
   EXPECT_EQ(1, unused->phy_enable_state);
   EXPECT_EQ(2, unused->oper_state);
-  EXPECT_EQ(0U, unused->oper_speed);
-  EXPECT_EQ(1U, unused->oper_mode);
+  EXPECT_EQ(0U, +unused->oper_speed);
+  EXPECT_EQ(1U, +unused->oper_mode);
 }
 
 TEST_F(PortManager, AMemberShowsTheVsanAndModeOfItsChannel) {
   const pm_port_info_* member = port(0x01010005);
-  EXPECT_EQ(8U, member->oper_mode);
+  EXPECT_EQ(8U, +member->oper_mode);
   EXPECT_EQ(8, member->oper_state);
-  EXPECT_EQ(2000U, member->oper_speed);
-  EXPECT_EQ(1U, member->vsan);
+  EXPECT_EQ(2000U, +member->oper_speed);
+  EXPECT_EQ(1U, +member->vsan);
 }
 
 TEST_F(PortManager, AnEthernetChannelHasTheSpeedOfItsMembers) {
   const pm_port_info_* channel = port(0x04010002);
-  EXPECT_EQ(2000U, channel->oper_speed);
+  EXPECT_EQ(2000U, +channel->oper_speed);
   EXPECT_EQ(1, channel->oper_state);
   EXPECT_EQ(0x02, channel->wwn.bytes[0]);
   EXPECT_EQ(0xFF, channel->wwn.bytes[1]);
@@ -292,7 +292,7 @@ TEST_F(PortManager, AFullAliasHasNoNul) {
   EXPECT_EQ(0, set_alias(0x01010001, full));
   const pm_port_info_* info = port(0x01010001);
   EXPECT_EQ(full, std::string(info->name, 81));
-  EXPECT_EQ(1U, info->admin_mode);
+  EXPECT_EQ(1U, +info->admin_mode);
 }
 
 TEST_F(PortManager, AnAliasIsRefusedInTheReply) {
@@ -323,10 +323,10 @@ TEST_F(PortManager, AnInterfaceThatIsNotThereIsRefusedAsAWhole) {
 
 TEST_F(PortManager, TheSpeedIsChangedAndTheLinkFollows) {
   EXPECT_EQ(0, set_word(0x01010001, 3, 1000));
-  EXPECT_EQ(1000U, port(0x01010001)->admin_speed);
-  EXPECT_EQ(1000U, port(0x01010001)->oper_speed);
+  EXPECT_EQ(1000U, +port(0x01010001)->admin_speed);
+  EXPECT_EQ(1000U, +port(0x01010001)->oper_speed);
   EXPECT_EQ(0, set_word(0x01010001, 3, 0));
-  EXPECT_EQ(2000U, port(0x01010001)->oper_speed);
+  EXPECT_EQ(2000U, +port(0x01010001)->oper_speed);
 }
 
 TEST_F(PortManager, ALinkWhoseEndsHaveDifferentSpeedsIsDown) {
@@ -350,24 +350,24 @@ TEST_F(PortManager, ASpeedIsRefused) {
 
 TEST_F(PortManager, AModeThatDoesNotFitTheDeviceTakesThePortDown) {
   EXPECT_EQ(0, set_word(0x01010001, 2, 4));
-  EXPECT_EQ(4U, port(0x01010001)->admin_mode);
+  EXPECT_EQ(4U, +port(0x01010001)->admin_mode);
   EXPECT_EQ(2, port(0x01010001)->oper_state);
   EXPECT_EQ(0, set_word(0x01010001, 2, 32));
   EXPECT_EQ(1, port(0x01010001)->oper_state);
   EXPECT_EQ(0, set_word(0x01010001, 2, 96));
   EXPECT_EQ(1, port(0x01010001)->oper_state);
-  EXPECT_EQ(32U, port(0x01010001)->oper_mode);
+  EXPECT_EQ(32U, +port(0x01010001)->oper_mode);
   EXPECT_EQ(0, set_word(0x01010001, 2, 64));
   EXPECT_EQ(2, port(0x01010001)->oper_state);
 }
 
 TEST_F(PortManager, ALoopWorksInFlFxAndTlMode) {
   EXPECT_EQ(0, set_word(0x01010007, 2, 64));
-  EXPECT_EQ(64U, port(0x01010007)->oper_mode);
+  EXPECT_EQ(64U, +port(0x01010007)->oper_mode);
   EXPECT_EQ(0, set_word(0x01010007, 2, 96));
-  EXPECT_EQ(64U, port(0x01010007)->oper_mode);
+  EXPECT_EQ(64U, +port(0x01010007)->oper_mode);
   EXPECT_EQ(0, set_word(0x01010007, 2, 128));
-  EXPECT_EQ(128U, port(0x01010007)->oper_mode);
+  EXPECT_EQ(128U, +port(0x01010007)->oper_mode);
   EXPECT_EQ(0, set_word(0x01010007, 2, 32));
   EXPECT_EQ(2, port(0x01010007)->oper_state);
 }
@@ -375,7 +375,7 @@ TEST_F(PortManager, ALoopWorksInFlFxAndTlMode) {
 TEST_F(PortManager, EveryModeOfTheSettingsIsTaken) {
   for (const uint32_t mode : {1U, 2U, 4U, 16U, 32U, 64U, 96U, 128U}) {
     EXPECT_EQ(0, set_word(0x01010009, 2, mode)) << mode;
-    EXPECT_EQ(mode, port(0x01010009)->admin_mode);
+    EXPECT_EQ(mode, +port(0x01010009)->admin_mode);
   }
 }
 
@@ -395,7 +395,7 @@ TEST_F(PortManager, ThePortIsSetDownAndUp) {
   EXPECT_EQ(0, set_state(0x01010001, 2));
   EXPECT_EQ(2, port(0x01010001)->admin_state);
   EXPECT_EQ(2, port(0x01010001)->oper_state);
-  EXPECT_EQ(0U, port(0x01010001)->oper_speed);
+  EXPECT_EQ(0U, +port(0x01010001)->oper_speed);
   EXPECT_EQ(0, set_state(0x01010001, 1));
   EXPECT_EQ(1, port(0x01010001)->oper_state);
   EXPECT_EQ(0, set_state(0x05000001, 2));
@@ -408,17 +408,17 @@ TEST_F(PortManager, WhatSitsOnAnEthernetPortGoesDownWithIt) {
   EXPECT_EQ(0, set_state(0x02020002, 2));
   EXPECT_EQ(2, port(0x0A000001)->oper_state);
   EXPECT_EQ(0, set_state(0x02020003, 2));
-  EXPECT_EQ(1000U, port(0x04010002)->oper_speed);
+  EXPECT_EQ(1000U, +port(0x04010002)->oper_speed);
   EXPECT_EQ(0, set_state(0x02020004, 2));
   EXPECT_EQ(2, port(0x04010002)->oper_state);
 }
 
 TEST_F(PortManager, APortChannelLosesTheSpeedOfAMemberThatIsDown) {
   EXPECT_EQ(0, set_state(0x01010005, 2));
-  EXPECT_EQ(2000U, port(0x04000001)->oper_speed);
+  EXPECT_EQ(2000U, +port(0x04000001)->oper_speed);
   EXPECT_EQ(0, set_state(0x01010006, 2));
   EXPECT_EQ(2, port(0x04000001)->oper_state);
-  EXPECT_EQ(1U, port(0x04000001)->oper_mode);
+  EXPECT_EQ(1U, +port(0x04000001)->oper_mode);
 }
 
 TEST_F(PortManager, AStateIsRefused) {
