@@ -2,6 +2,7 @@
 
 #include <cim_utils/cmpi_computer_system.h>
 #include <cim_utils/collections.h>
+#include <cim_utils/domain_manager.h>
 #include <cim_utils/formats.h>
 #include <cim_utils/system.h>
 #include <cim_utils/vsan.h>
@@ -58,6 +59,13 @@ wwn_ wwn_in_vsan(uint32_t vsan, const wwn_& device_wwn) {
   wwn_ wwn = device_wwn;
   wwn_cim_get_vsan_wwn_from_switch_unique_wwn(vsan, &wwn, &device_wwn);
   return wwn;
+}
+
+// Without one the own switch is not in the VSAN, whatever the VSAN manager says of it, and the
+// configuration server refuses to tell the others.
+bool domain_manager_runs(int32_t q, uint32_t vsan) {
+  mts_dm_sw_conf_ configuration{};
+  return dm_cim_get_dmEntry(q, vsan, 1, &configuration) == 0 && configuration.enabled != 0;
 }
 
 bool find_element(int32_t q, uint32_t vsan, const wwn_& wwn, fcs_cim_ie_& element) {
@@ -145,9 +153,11 @@ std::vector<fcs_cim_ie_> elements_of(int32_t q, uint32_t vsan) {
   fcs_cim_ie_* elements = nullptr;
   const int32_t status = fcs_cim_get_ie_entries_in_vsan(q, vsan, &count, &elements);
   const std::unique_ptr<fcs_cim_ie_, FreeBlock> owner(elements);
-  if (status != 0)
+  if (status != 0) {
+    if (!domain_manager_runs(q, vsan)) return {};
     throw Failure(CMPI_RC_ERR_FAILED,
                   "the fabric configuration server does not give the switches of VSAN %u", vsan);
+  }
   if (elements == nullptr || count <= 0) return {};
   return {elements, elements + count};
 }

@@ -17,7 +17,8 @@ namespace vexor::providers {
 inline constexpr size_t kWwnText = 16;
 
 // Every switch of a VSAN, each with its domain: one exchange with the configuration server, and one
-// more for each. Throws Failure when the server does not tell them.
+// more for each. None in a VSAN where the own switch has no domain manager running. Throws Failure
+// when the server does not tell them.
 std::vector<fcs_cim_ie_> elements_of(int32_t q, uint32_t vsan);
 
 // ---- devices ----
