@@ -6,7 +6,6 @@
 #include <cim_utils/wwn_rules.h>
 
 #include <cstring>
-#include <tuple>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -204,7 +203,15 @@ std::vector<Port> endpoints_of(int32_t q, const Attachment& side) {
 
 // ---- connections ----
 
-using Place = std::tuple<uint32_t, uint32_t>;  // domain and interface
+// A switch by its domain, and an interface of it.
+struct Place {
+  uint32_t domain;
+  uint32_t if_index;
+};
+
+bool operator<(const Place& a, const Place& b) {
+  return a.domain != b.domain ? a.domain < b.domain : a.if_index < b.if_index;
+}
 
 Place near_place(const fspfLinkEntry& link) {
   return {link.domain, link.if_index};
@@ -220,8 +227,10 @@ bool tells_of_link(const fspfLinkEntry& link) {
 
 fspfLinkEntry turned(const fspfLinkEntry& link) {
   fspfLinkEntry other = link;
-  std::tie(other.domain, other.if_index) = far_place(link);
-  std::tie(other.remote_domain, other.remote_if_index) = near_place(link);
+  other.domain = link.remote_domain;
+  other.if_index = link.remote_if_index;
+  other.remote_domain = link.domain;
+  other.remote_if_index = link.if_index;
   return other;
 }
 
@@ -265,7 +274,8 @@ void add_link_connections(int32_t q, uint32_t vsan, std::vector<LinkedPair>& fou
       near.link = turned(end.link);
       near.local = true;
     }
-    const auto far = switches.find(near.link.remote_domain);
+    const uint32_t far_domain = near.link.remote_domain;  // of a packed record
+    const auto far = switches.find(far_domain);
     if (tells_of_link(near.link) && far != switches.end())
       found.push_back(connection(near, far->second));
   }
@@ -310,8 +320,10 @@ void add_members(uint32_t vsan, const std::vector<Form>& endpoints,
 // Leaves out the endpoints of ports in a VSAN that the VSAN manager does not know.
 std::vector<LinkedPair> known_members(int32_t q, const std::vector<Port>& endpoints) {
   std::unordered_set<uint32_t> vsans;
-  for (const VsanRecord& vsan : all_vsans(q))
-    vsans.insert(vsan.entry.vsan_index);
+  for (const VsanRecord& vsan : all_vsans(q)) {
+    const uint32_t number = vsan.entry.vsan_index;  // of a packed record
+    vsans.insert(number);
+  }
   std::vector<Port> known;
   for (const Port& port : endpoints)
     if (vsans.contains(vsan_of(port))) known.push_back(port);
@@ -352,9 +364,10 @@ void for_each_remote_end(int32_t q, const std::vector<uint32_t>& vsans, Visit vi
   RemoteAccessPoint remote;
   for (const uint32_t vsan : vsans)
     for (const fspfLinkEntry& link : own_links(q, vsan))
-      if (!listed.contains(link.if_index) && remote_end(q, link, remote)) {
-        listed.insert(link.if_index);
-        visit(link.if_index, remote);
+      if (const uint32_t if_index = link.if_index;
+          !listed.contains(if_index) && remote_end(q, link, remote)) {
+        listed.insert(if_index);
+        visit(if_index, remote);
       }
 }
 
@@ -380,7 +393,8 @@ std::vector<LinkedPair> remote_connections_among(int32_t q, const std::vector<Ow
   std::unordered_map<uint32_t, const OwnPort*> by_index;
   std::unordered_map<uint64_t, const OwnPort*> by_wwn;
   for (const OwnPort& port : ports) {
-    by_index.emplace(port.info.if_index, &port);
+    const uint32_t if_index = port.info.if_index;  // of a packed record
+    by_index.emplace(if_index, &port);
     by_wwn.emplace(number_of(port.info.wwn), &port);
   }
   std::vector<LinkedPair> found;
@@ -420,8 +434,9 @@ std::vector<LinkedPair> port_identities(int32_t q) {
 
   std::vector<LinkedPair> found;
   for (const OwnPort& port : all_own_ports(q)) {
+    const uint32_t if_index = port.info.if_index;  // of a packed record
     const wwn_ port_wwn = port.info.wwn;
-    add_own_identities(port, own_ends[port.info.if_index], behind[number_of(port_wwn)], found);
+    add_own_identities(port, own_ends[if_index], behind[number_of(port_wwn)], found);
   }
   add_identities(ends, found);
   for (const bool fabric_side : {true, false})

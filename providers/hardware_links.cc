@@ -26,10 +26,15 @@ bool names_switch(const ObjectName& object, const PhysicalSwitch& device) {
 
 // ---- modules and ports ----
 
+// Copied, since the record is packed.
+uint32_t number_of(const Module& module) {
+  return module.row.module_number;
+}
+
 std::unordered_map<uint32_t, Module> modules_by_number(int32_t q) {
   std::unordered_map<uint32_t, Module> found;
   for (const Module& module : modules(q))
-    found.emplace(module.row.module_number, module);
+    found.emplace(number_of(module), module);
   return found;
 }
 
@@ -162,7 +167,7 @@ std::vector<LinkedPair> module_ports_of(int32_t q, int end, const ObjectName& ob
   if (end == 0) {
     std::unordered_map<uint32_t, Module> named;
     for (const Module& module : modules_named(q, object))
-      named.emplace(module.row.module_number, module);
+      named.emplace(number_of(module), module);
     if (named.empty() || named.begin()->second.row.num_ports == 0) return found;
     for (const OwnPort& port : all_own_ports(q))
       add_module_port(named, port, found);
