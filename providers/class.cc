@@ -24,6 +24,12 @@ bool same_value(const CMPIData& a, const CMPIData& b) {
   return to_text(a, first) && to_text(b, second) && first == second;
 }
 
+std::optional<ObjectName> object_in(const CMPIData& data, const CMPIStatus& status) {
+  const bool has_value = status.rc == CMPI_RC_OK && (data.state & ~CMPI_keyValue) == 0;
+  if (!has_value || data.type != CMPI_ref || data.value.ref == nullptr) return std::nullopt;
+  return ObjectName(data.value.ref);
+}
+
 }  // namespace
 
 bool NewValues::text(const char* property, std::string& value) const {
@@ -55,11 +61,37 @@ bool NewValues::same_in(const CMPIInstance* other, const char* property) const {
   return mine.rc == CMPI_RC_OK && theirs.rc == CMPI_RC_OK && same_value(a, b);
 }
 
+std::optional<ObjectName> NewValues::reference(const char* property) const {
+  if (properties_ != nullptr && !is_in(property, properties_)) return std::nullopt;
+  CMPIStatus status = {CMPI_RC_OK, nullptr};
+  const CMPIData data = instance_->ft->getProperty(instance_, property, &status);
+  return object_in(data, status);
+}
+
 bool Arguments::text(const char* argument, std::string& value) const {
   if (in == nullptr) return false;
   CMPIStatus status = {CMPI_RC_OK, nullptr};
   const CMPIData data = in->ft->getArg(in, argument, &status);
   return status.rc == CMPI_RC_OK && to_text(data, value);
+}
+
+std::optional<ObjectName> Arguments::reference(const char* argument) const {
+  if (in == nullptr) return std::nullopt;
+  CMPIStatus status = {CMPI_RC_OK, nullptr};
+  const CMPIData data = in->ft->getArg(in, argument, &status);
+  return object_in(data, status);
+}
+
+void Arguments::give_back(const char* argument, const CMPIObjectPath* path) const {
+  if (path == nullptr || path->hdl == nullptr)
+    throw Failure(CMPI_RC_ERR_FAILED, "the object path for \"%s\" cannot be made", argument);
+  if (out == nullptr) return;
+  CMPIValue value{};
+  // Headers differ in whether the path is constant.
+  value.ref = const_cast<CMPIObjectPath*>(path);
+  const CMPIStatus status = out->ft->addArg(out, argument, &value, CMPI_ref);
+  if (status.rc != CMPI_RC_OK)
+    throw Failure(status.rc, "the object path for \"%s\" was not taken", argument);
 }
 
 }  // namespace vexor::providers

@@ -15,6 +15,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <utility>
@@ -49,19 +50,30 @@ class NewValues {
   // Whether an instance has the same value of a property. Numbers are compared whatever their
   // types.
   bool same_in(const CMPIInstance* other, const char* property) const;
+  // The object that a reference property names; none when it is not given or is no reference.
+  std::optional<ObjectName> reference(const char* property) const;
 
  private:
   const CMPIInstance* instance_;
   const char** properties_;
 };
 
-// The arguments of a method call. Those that are no text, number or truth value through `in` and
-// `out` themselves.
+// The arguments of a method call. Those that are no text, number, truth value or reference through
+// `in` and `out` themselves.
 struct Arguments {
   const CMPIArgs* in;
   CMPIArgs* out;
+  // For the paths of objects that the method gives back; the request fills them in.
+  const char* name_space = nullptr;
+  const CMPIBroker* broker = nullptr;
+
   // Result: whether the client gave the argument; `value` receives its text.
   bool text(const char* argument, std::string& value) const;
+  // The object that the argument names; none when it is not given or is no reference.
+  std::optional<ObjectName> reference(const char* argument) const;
+  // Gives an object back. Throws Failure when there is no path or it is not taken.
+  void give_back(const char* argument, const CMPIObjectPath* path) const;
+  Target target(const char* class_name) const { return {class_name, name_space, broker, nullptr}; }
 };
 
 // One end of an association.
@@ -69,6 +81,9 @@ struct End {
   const char* role = nullptr;        // null: the class is no association
   const char* class_name = nullptr;  // what stands at this end: this class or one derived from it
   bool always_the_same = false;      // every record has the same object at this end
+  // Further classes that stand at this end, where they have no superclass of ours in common, and a
+  // null pointer; null: none.
+  const char* const* more_classes = nullptr;
 };
 
 // The objects of one class that a request has read.

@@ -79,6 +79,13 @@ bool Request::is_a(const char* name, const char* class_name) const {
   return path != nullptr && path->hdl != nullptr && is_a(path, class_name);
 }
 
+bool Request::stands_at(const End& end) const {
+  if (is_a(path_, end.class_name)) return true;
+  for (const char* const* name = end.more_classes; name != nullptr && *name != nullptr; ++name)
+    if (is_a(path_, *name)) return true;
+  return false;
+}
+
 template <class Visit>
 void Request::for_each_class(Visit visit) const {
   if (const Class* cls = class_named(class_name_.c_str())) return visit(*cls);
@@ -244,9 +251,11 @@ void Request::invoke(const char* method, const Arguments& arguments) {
     throw Failure(CMPI_RC_ERR_METHOD_NOT_FOUND, "%s has no method \"%s\"", cls.name(),
                   method != nullptr ? method : "");
   const Found found = find(cls);
+  const ForwardingBroker broker(broker_, {});
+  const Arguments with_target{arguments.in, arguments.out, name_space_.c_str(), broker.face()};
   CMPIValue value{};
   value.uint32 =
-      locked([&](int32_t q) { return found.objects->invoke(found.index, q, method, arguments); });
+      locked([&](int32_t q) { return found.objects->invoke(found.index, q, method, with_target); });
   check(result_->ft->returnData(result_, &value, CMPI_uint32), "the return value was not taken");
   done();
 }
@@ -278,7 +287,7 @@ void Request::for_each_link(const AssociationFilter& filter, Visit visit) const 
       if (given(filter.role) && !same_name(filter.role, cls->end(end).role)) continue;
       if (given(filter.result_role) && !same_name(filter.result_role, cls->end(1 - end).role))
         continue;
-      if (is_a(path_, cls->end(end).class_name)) for_each_link(*cls, end, visit);
+      if (stands_at(cls->end(end))) for_each_link(*cls, end, visit);
     }
   }
 }

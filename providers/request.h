@@ -76,6 +76,8 @@ class Request {
   // Whether a path's class is the named one or derives from it.
   bool is_a(const CMPIObjectPath* path, const char* class_name) const;
   bool is_a(const char* name, const char* class_name) const;
+  // Whether the path's object may stand at an end.
+  bool stands_at(const End& end) const;
 
   // Run a builder of the library under the lock; a builder that fails is a failure of the request.
   template <class Build>
