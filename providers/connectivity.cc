@@ -3,7 +3,10 @@
 #include <cim_utils/domain_manager.h>
 #include <cim_utils/fspf.h>
 #include <cim_utils/name_server.h>
+#include <cim_utils/port_manager.h>
 #include <cim_utils/wwn_rules.h>
+#include <switch_platform/if_index.h>
+#include <switch_platform/port_manager.h>
 
 #include <cstring>
 #include <unordered_map>
@@ -50,10 +53,10 @@ std::vector<Registration> registered_behind(int32_t q, uint32_t vsan, const wwn_
   return shared(count, entries);
 }
 
-// The ports of a node in every VSAN that is up.
-std::vector<Registration> registered_of_node(int32_t q, const wwn_& node) {
+// In every VSAN that is up, by what the WWN is of: a port of a device, or a node.
+std::vector<Registration> registered_anywhere(int32_t q, const wwn_& wwn, int32_t code) {
   GSList* list = nullptr;
-  ns_cim_get_all_name_server_entries_with_wwn(q, node.bytes, NS_CIM_NODE, 0, 0, &list);
+  ns_cim_get_all_name_server_entries_with_wwn(q, wwn.bytes, code, 0, 0, &list);
   const GListOwner owner(list);
   std::vector<Registration> found;
   for (const GSList* element = list; element != nullptr; element = element->next)
@@ -182,8 +185,18 @@ std::vector<LinkedPair> implemented(const std::vector<Port>& endpoints) {
   return found;
 }
 
-// The endpoints of a port, which is no form of a device's port.
+// Ethernet ports and channels and the management port have a MAC address in place of a WWN.
+bool has_wwn(const OwnPort& port) {
+  const uint32_t if_index = port.info.if_index;
+  uint8_t type = 0;
+  if (pm_is_ether_channel(if_index) != 0 || if_index_get_type(if_index, &type) != 0) return false;
+  return type == PM_IF_FC || type == PM_IF_PORT_CHANNEL || type == PM_IF_FCIP ||
+         type == PM_IF_ISCSI;
+}
+
+// The endpoints of a port, in its VSAN: a port of a device has none of its own.
 std::vector<Port> endpoints_of(int32_t, const OwnPort& port) {
+  if (!has_wwn(port)) return {};
   return {port};
 }
 std::vector<Port> endpoints_of(int32_t, const LinkEnd& end) {
@@ -302,13 +315,6 @@ std::vector<LinkedPair> ports_of_nodes(const std::vector<Registration>& entries)
 
 // ---- VSANs ----
 
-std::vector<LinkedPair> members(const std::vector<Port>& endpoints) {
-  std::vector<LinkedPair> found;
-  for (const Port& port : endpoints)
-    found.push_back({ConnectivityCollection{vsan_of(port)}, Endpoint{port}});
-  return found;
-}
-
 template <class Form>
 void add_members(uint32_t vsan, const std::vector<Form>& endpoints,
                  std::vector<LinkedPair>& found) {
@@ -317,17 +323,19 @@ void add_members(uint32_t vsan, const std::vector<Form>& endpoints,
       found.push_back({ConnectivityCollection{vsan}, Endpoint{endpoint}});
 }
 
-// Leaves out the endpoints of ports in a VSAN that the VSAN manager does not know.
-std::vector<LinkedPair> known_members(int32_t q, const std::vector<Port>& endpoints) {
-  std::unordered_set<uint32_t> vsans;
-  for (const VsanRecord& vsan : all_vsans(q)) {
-    const uint32_t number = vsan.entry.vsan_index;  // of a packed record
-    vsans.insert(number);
+// Leaves out the endpoints of ports in a VSAN that the VSAN manager does not know. Asks once for
+// each VSAN.
+std::vector<LinkedPair> members(int32_t q, const std::vector<Port>& endpoints) {
+  std::unordered_map<uint32_t, bool> known;
+  std::vector<LinkedPair> found;
+  for (const Port& port : endpoints) {
+    const uint32_t number = vsan_of(port);
+    const auto [vsan, is_new] = known.try_emplace(number, false);
+    vsanNewEntry_t entry;
+    if (is_new) vsan->second = read_vsan_entry(q, number, entry);
+    if (vsan->second) found.push_back({ConnectivityCollection{number}, Endpoint{port}});
   }
-  std::vector<Port> known;
-  for (const Port& port : endpoints)
-    if (vsans.contains(vsan_of(port))) known.push_back(port);
-  return members(known);
+  return found;
 }
 
 // ---- other systems ----
@@ -408,6 +416,44 @@ std::vector<LinkedPair> remote_connections_among(int32_t q, const std::vector<Ow
     if (port != by_wwn.end()) found.push_back({*port->second, remote});
   });
   return found;
+}
+
+// The own ports that are connected to a device's port, by its WWN.
+void add_remote_device(int32_t q, const wwn_& wwn, std::vector<LinkedPair>& found) {
+  const wwn_ own = own_switch_wwn(q);
+  for (const Registration& entry : registered_anywhere(q, wwn, NS_CIM_NODE_SIDE)) {
+    const wwn_ port_wwn = entry->fabric_port_wwn;
+    wwn_ owner{};
+    if (wwn_cim_get_switch_wwn_from_port_wwn(0, &owner, &port_wwn) != 0 || !same_wwn(owner, own))
+      continue;
+    for (const OwnPort& port : own_ports_with_wwn(q, port_wwn))
+      found.push_back({port, remote_device(entry)});
+  }
+}
+
+// The own port that is linked to another switch's, by the name that FSPF gives a port of a device.
+void add_remote_end(int32_t q, const char* name, std::vector<LinkedPair>& found) {
+  char text[kWwnText + 1] = {};
+  int32_t if_index = 0;
+  int32_t type = 0;
+  wwn_ device;
+  if (fspf_cim_get_fields_from_physical_name(name, text, &if_index, &type) != 0 ||
+      !read_wwn(text, device))
+    return;
+  const wwn_ own = own_switch_wwn(q);
+  for (const LinkEnd& end : ends_in_vsans(q, device, static_cast<uint32_t>(if_index))) {
+    wwn_ shown;
+    if (dm_cim_get_switch_wwn_by_domain_id(
+            q, end.link.word_0, static_cast<uint8_t>(end.link.remote_domain), &shown) != 0 ||
+        !same_wwn(device_wwn_of(shown), own))
+      continue;
+    RemoteAccessPoint remote;
+    if (!remote_end(q, turned(end.link), remote)) continue;
+    const uint32_t here = end.link.remote_if_index;
+    for (const OwnPort& port : own_port(q, kind_of(here), here))
+      found.push_back({port, remote});
+    return;
+  }
 }
 
 }  // namespace
@@ -508,7 +554,7 @@ std::vector<LinkedPair> node_ports_of(int32_t q, int end, const ObjectName& obje
   if (end == 0) {
     wwn_ wwn;
     if (!read_wwn(object.text("InstanceID"), wwn)) return {};
-    return ports_of_nodes(registered_of_node(q, wwn));
+    return ports_of_nodes(registered_anywhere(q, wwn, NS_CIM_NODE));
   }
   std::vector<Registration> entries;
   for (const Port& port : ports_like(q, object))
@@ -517,11 +563,11 @@ std::vector<LinkedPair> node_ports_of(int32_t q, int end, const ObjectName& obje
 }
 
 std::vector<LinkedPair> connected_endpoints(int32_t q) {
-  return known_members(q, endpoints(q));
+  return members(q, endpoints(q));
 }
 
 std::vector<LinkedPair> connected_endpoints_of(int32_t q, int end, const ObjectName& object) {
-  if (end == 1) return known_members(q, endpoints_named(q, object));
+  if (end == 1) return members(q, endpoints_named(q, object));
   const char* text = object.text("InstanceID");
   const uint32_t number =
       text != nullptr ? static_cast<uint32_t>(std::strtoul(text, nullptr, 10)) : 0;
@@ -542,7 +588,23 @@ std::vector<LinkedPair> remote_connections(int32_t q) {
 }
 
 std::vector<LinkedPair> remote_connections_of(int32_t q, int end, const ObjectName& object) {
-  return remote_connections_among(q, end == 0 ? own_ports_like(q, object) : all_own_ports(q));
+  if (end == 0) return remote_connections_among(q, own_ports_like(q, object));
+  std::vector<LinkedPair> found;
+  const char* name = object.text("Name");
+  if (name == nullptr) return found;
+  if (wwn_ wwn; read_wwn(name, wwn)) {
+    add_remote_device(q, wwn, found);
+  } else {
+    add_remote_end(q, name, found);
+  }
+  return found;
+}
+
+std::vector<RemoteAccessPoint> remote_access_points_named(int32_t q, const ObjectName& name) {
+  std::vector<RemoteAccessPoint> found;
+  for (const LinkedPair& pair : remote_connections_of(q, 1, name))
+    found.push_back(std::get<RemoteAccessPoint>(pair.second));
+  return found;
 }
 
 std::vector<RemoteAccessPoint> remote_access_points(int32_t q) {

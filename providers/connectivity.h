@@ -39,5 +39,7 @@ std::vector<LinkedPair> remote_connections_of(int32_t q, int end, const ObjectNa
 
 // VEXOR_RemoteServiceAccessPoint: what the own ports are connected to, each once.
 std::vector<RemoteAccessPoint> remote_access_points(int32_t q);
+// By "Name": the WWN of a device's port, or what FSPF calls a port of a switch.
+std::vector<RemoteAccessPoint> remote_access_points_named(int32_t q, const ObjectName& name);
 
 }  // namespace vexor::providers

@@ -61,6 +61,7 @@ constexpr RecordClass<RemoteAccessPoint> kRemoteServiceAccessPoint{{
                     const RemoteAccessPoint& remote) { return linked_reference(to, remote); },
     .instance = [](const Target& to,
                    const RemoteAccessPoint& remote) { return linked_instance(to, remote); },
+    .find = remote_access_points_named,
 }};
 
 // ---- associations ----
@@ -221,7 +222,7 @@ constexpr LinkedAssociation kRemoteConnections = {
     .build = sap_afe_build_instance,
     .list = remote_connections,
     .related = remote_connections_of,
-    .known_by = 0,
+    .known_by = 1,
 };
 
 constexpr RecordClass<LinkedPair> kActiveConnection{described<kConnections>()};

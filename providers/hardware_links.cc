@@ -1,11 +1,11 @@
 #include "providers/hardware_links.h"
 
-#include <cim_utils/vsan.h>
 #include <cim_utils/wwn_rules.h>
 
 #include <unordered_map>
 
 #include "providers/wwn.h"
+#include "providers/zoning_service.h"
 
 namespace vexor::providers {
 namespace {
@@ -231,8 +231,8 @@ std::vector<LinkedPair> element_capabilities(int32_t q) {
   std::vector<LinkedPair> found = {{own_switch(q), SwitchCapabilities{}}};
   for (const OwnPort& port : own_ports(q, PortKind::fibre_channel))
     found.push_back({port, PortCapabilities{port}});
-  for (const VsanRecord& vsan : all_vsans(q))
-    add_zone_capabilities(vsan.entry.vsan_index, found);
+  for (const ZoneService& service : zone_services(q))
+    add_zone_capabilities(service.vsan, found);
   return found;
 }
 
@@ -244,9 +244,12 @@ std::vector<LinkedPair> element_capabilities_of(int32_t q, int, const ObjectName
   } else if (is_class(object, "VEXOR_FCPortCapabilities")) {
     for (const OwnPort& port : own_ports_with_id(q, object))
       found.push_back({port, PortCapabilities{port}});
-  } else if (is_class(object, "VEXOR_ZoneService") || is_class(object, "VEXOR_ZoneCapabilities")) {
-    for (const VsanRecord& vsan : all_vsans(q))
-      add_zone_capabilities(vsan.entry.vsan_index, found);
+  } else if (is_class(object, kZoneServiceClass)) {
+    for (const ZoneService& service : zone_services_named(q, object))
+      add_zone_capabilities(service.vsan, found);
+  } else if (is_class(object, kZoneCapabilitiesClass)) {
+    for (const ZoneService& service : zone_capabilities_named(q, object))
+      add_zone_capabilities(service.vsan, found);
   } else if (is_class(object, "VEXOR_PhysicalComputerSystem") ||
              is_class(object, "VEXOR_FCSwitchCapabilities")) {
     found.push_back({own_switch(q), SwitchCapabilities{}});

@@ -201,8 +201,8 @@ TEST_P(OnFabrics, EveryEnumeratedPathAnswersGetOnce) {
   Texts problems;
   {
     const Quiet quiet;
-    std::set<std::string> names;
     for (const cim::schema::Class* cls : classes()) {
+      std::set<std::string> names;
       try {
         for (const ObjectPath& path : manager().enumerate_instance_names("root/cimv2", cls->name)) {
           if (!names.insert(name_of(path)).second) problems.push_back("twice: " + name_of(path));
