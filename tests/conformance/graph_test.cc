@@ -205,6 +205,7 @@ TEST_P(OnFabrics, EveryEnumeratedPathAnswersGetOnce) {
       std::set<std::string> names;
       try {
         for (const ObjectPath& path : manager().enumerate_instance_names("root/cimv2", cls->name)) {
+          if (path.class_name != cls->name) continue;  // told of its own class
           if (!names.insert(name_of(path)).second) problems.push_back("twice: " + name_of(path));
           const std::string problem = problem_with_get(path);
           if (!problem.empty()) problems.push_back(problem);

@@ -149,7 +149,8 @@ TEST_F(Connectivity, AVsanThatIsNotKnownConnectsNothing) {
       linked(id_path("VEXOR_ConnectivityCollection", "3"), "VEXOR_ConnectivityMemberOfCollection"),
       Texts{});
   change([](switch_sim::Fabric& fabric) {
-    find_interface(fabric.switches[0], 0x01010009)->vsan = 77;
+    for (auto& interface : fabric.switches[0].interfaces)
+      if (interface.if_index == 0x01010009) interface.vsan = 77;
   });
   EXPECT_EQ(linked(own_endpoint("2049000DEC0A1B2C"), "VEXOR_ConnectivityMemberOfCollection"),
             Texts{});

@@ -18,6 +18,7 @@ using port_tests::ethernet_path;
 using port_tests::id_path;
 using port_tests::kOwnWwn;
 using port_tests::port_path;
+using port_tests::text;
 using port_tests::Texts;
 using port_tests::value;
 using switch_sim::Fault;
@@ -98,12 +99,12 @@ class HardwareTest : public port_tests::PortTest {
 
   // As a path stands in another path.
   static std::string escaped(const std::string& of) {
-    std::string text;
+    std::string made;
     for (const char character : of) {
-      if (character == '"' || character == '\\') text += '\\';
-      text += character;
+      if (character == '"' || character == '\\') made += '\\';
+      made += character;
     }
-    return text;
+    return made;
   }
 
   static void change(void (*edit)(switch_sim::Fabric&)) {
