@@ -58,7 +58,7 @@ TEST_F(HardwareObjects, ModulesHaveSlotsStatesAndNames) {
   const Instance card = get(module_path("201"));
   EXPECT_EQ(value(card, "ModuleNumber"), "1");
   EXPECT_EQ(value(card, "ElementName"), "Module 1");
-  EXPECT_EQ(value(card, "OperationalStatus"), "{2}");
+  EXPECT_EQ(value(card, "OperationalStatus"), "2");
   EXPECT_EQ(value(card, "Status"), "OK");
   EXPECT_EQ(value(card, "EnabledState"), "3");
   EXPECT_EQ(value(card, "RequestedState"), "2");
@@ -68,7 +68,7 @@ TEST_F(HardwareObjects, ModulesHaveSlotsStatesAndNames) {
 TEST_F(HardwareObjects, AFailedModuleIsInError) {
   const Instance module = get(module_path("208"));
   EXPECT_EQ(value(module, "ModuleNumber"), "8");
-  EXPECT_EQ(value(module, "OperationalStatus"), "{6}");
+  EXPECT_EQ(value(module, "OperationalStatus"), "6");
   EXPECT_EQ(value(module, "Status"), "FAILED");
   EXPECT_EQ(value(module, "EnabledState"), "5");
   EXPECT_EQ(value(module, "RequestedState"), "2");
@@ -77,7 +77,7 @@ TEST_F(HardwareObjects, AFailedModuleIsInError) {
 TEST_F(HardwareObjects, AModuleThatIsPoweredDownIsStoppedAndDisabled) {
   const Instance module = get(module_path("204"));
   EXPECT_EQ(value(module, "ModuleNumber"), "4");
-  EXPECT_EQ(value(module, "OperationalStatus"), "{10}");
+  EXPECT_EQ(value(module, "OperationalStatus"), "10");
   EXPECT_EQ(value(module, "Status"), "DISABLED");
   EXPECT_EQ(value(module, "EnabledState"), "4");
   EXPECT_EQ(value(module, "RequestedState"), "3");
@@ -101,7 +101,7 @@ TEST_F(HardwareObjects, AModuleWhoseEntityIsNotToldHasNoNames) {
   fail(switch_sim::kPhysicalEntity, Fault::Kind::status, 0x40010001);
   const Instance module = get(module_path("201"));
   EXPECT_EQ(value(module, "ElementName"), "");
-  EXPECT_EQ(value(module, "OperationalStatus"), "{2}");
+  EXPECT_EQ(value(module, "OperationalStatus"), "2");
 }
 
 TEST_F(HardwareObjects, APlatformManagerThatDoesNotAnswerFailsTheRequest) {
