@@ -3,7 +3,6 @@
 #include <cim_utils/modules.h>
 #include <cim_utils/port_manager.h>
 #include <cim_utils/session.h>
-#include <switch_platform/if_index.h>
 #include <switch_platform/platform_manager.h>
 #include <switch_platform/port_manager.h>
 
@@ -11,11 +10,11 @@
 
 #include "model/computer_system.h"
 #include "model/module_status.h"
+#include "model/port_texts.h"
 
 namespace cim_utils::model {
 namespace {
 
-constexpr char kPhysicalSwitch[] = "VEXOR_PhysicalComputerSystem";
 constexpr uint8_t kPortChannel = 4;
 constexpr uint16_t kEnabledByDefault = 2;
 
@@ -25,17 +24,6 @@ struct NumberText {
     std::snprintf(text, sizeof text, "%d", static_cast<int>(number));
   }
   char text[12];
-};
-
-// A text that is needed again after the next question for one.
-struct KeptText {
-  explicit KeptText(const char* from) { std::snprintf(text, sizeof text, "%s", from); }
-  char text[256];
-};
-
-struct InterfaceName {
-  explicit InterfaceName(uint32_t if_index) { sprintf_if_index(text, if_index); }
-  char text[64] = {};
 };
 
 // The two texts of the chassis's serial PROM. Empty when it cannot be read.
@@ -55,7 +43,7 @@ struct SerialProm {
   char part_number[498 - kPartNumber + 1] = {};
 };
 
-// Channels of Ethernet ports are known to the port manager alone; all other types are in the index.
+// The port manager tells Ethernet channels; of all others the index tells the type.
 uint8_t interface_type(uint32_t if_index) {
   if (pm_is_ether_channel(if_index) != 0) return kPortChannel;
   uint8_t type = 0;
@@ -85,9 +73,9 @@ Object product_instance(Builder& b, const char* cls, const char* ns, ChassisText
   ObjectWriter* out = b.open_instance(cls, ns, keys, Filter::ignored, nullptr);
   if (out == nullptr) return {};
   out->text("IdentifyingNumber", texts.system_name());
-  const KeptText name(texts.product_name());
-  out->text("Name", name.text);
-  out->text("ElementName", name.text);
+  const char* name = texts.product_name();
+  out->text("Name", name);
+  out->text("ElementName", name);
   out->text("Vendor", texts.vendor());
   out->text("Version", texts.version());
   if (b.instances_have_paths()) out->path(product_reference(b, cls, ns, texts));
@@ -108,10 +96,10 @@ Object physical_package_instance(Builder& b, const char* cls, const char* ns, Ch
   ObjectWriter* out = b.open_instance(cls, ns, keys, Filter::ignored, nullptr);
   if (out == nullptr) return {};
   out->text("CreationClassName", cls);
-  const KeptText name(texts.system_name());
-  out->text("Tag", name.text);
-  out->text("ElementName", name.text);
-  out->text("Name", name.text);
+  const char* name = texts.system_name();
+  out->text("Tag", name);
+  out->text("ElementName", name);
+  out->text("Name", name);
   out->text("Manufacturer", texts.vendor());
   out->text("Model", texts.model());
   const SerialProm prom(b.queue());
@@ -163,7 +151,7 @@ Ref logical_module_reference(Builder& b, const char* cls, const char* ns, const 
   if (out == nullptr) return ref;
   out->text("DeviceID", NumberText(module->entity_index).text);
   out->text("SystemName", CSgetName(b.queue()));
-  out->text("SystemCreationClassName", kPhysicalSwitch);
+  out->text("SystemCreationClassName", kPhysicalSwitchClass);
   out->text("CreationClassName", key_class);
   return b.close_path(out);
 }
@@ -182,7 +170,7 @@ Object logical_module_instance(Builder& b, const char* cls, const char* ns, cons
 
   out->text("DeviceID", NumberText(module->entity_index).text);
   out->text("SystemName", CSgetName(b.queue()));
-  out->text("SystemCreationClassName", kPhysicalSwitch);
+  out->text("SystemCreationClassName", kPhysicalSwitchClass);
   out->text("CreationClassName", cls);
   uint32_t slot = 0;
   const bool slot_known =
@@ -214,7 +202,7 @@ namespace {
 struct SwitchPackageEnds {
   SwitchPackageEnds(Builder& b, const char* ns, ChassisTexts& texts)
       : package(physical_package_reference(b, "VEXOR_PhysicalPackage", ns, texts)),
-        system(switch_reference(b, kPhysicalSwitch, ns, texts.system_name())) {}
+        system(switch_reference(b, kPhysicalSwitchClass, ns, texts.system_name())) {}
   Ref package;
   Ref system;
 };

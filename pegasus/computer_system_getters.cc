@@ -31,6 +31,12 @@ using ItemText = char[1040];
 
 constexpr char kUnknownWwn[] = "N/A";
 
+// Cut to the place that it is kept in.
+char* keep(char (&place)[256], const char* text) {
+  std::snprintf(place, sizeof place, "%s", text);
+  return place;
+}
+
 int give(CIMProperty& property, const char* name, const CIMValue& value) {
   property = CIMProperty(CIMName(name), value);
   return 0;
@@ -56,11 +62,6 @@ int give_codes(CIMProperty& property, const char* name, Uint16 code) {
 
 ComputerSystem::ComputerSystem(int queue) : queue_(queue) {}
 
-char* ComputerSystem::keep(const char* text) {
-  std::snprintf(text_, sizeof text_, "%s", text);
-  return text_;
-}
-
 int ComputerSystem::getAttribute(int selector, char* dst) {
   if (dst == nullptr) return -1;
   system_information_ item{};
@@ -84,7 +85,7 @@ int ComputerSystem::get_system_wwn(char* dst) {
 
 char* ComputerSystem::getName() {
   char wwn[17];
-  return keep(get_system_wwn(wwn) == 0 ? wwn : kUnknownWwn);
+  return keep(text_, get_system_wwn(wwn) == 0 ? wwn : kUnknownWwn);
 }
 
 char* ComputerSystem::getWWN() {
@@ -94,7 +95,7 @@ char* ComputerSystem::getWWN() {
 char* ComputerSystem::getElementName() {
   ItemText text = {};
   getAttribute(kSystemName, text);
-  return keep(text);
+  return keep(text_, text);
 }
 
 int ComputerSystem::getCaption(CIMProperty& property) {

@@ -128,7 +128,7 @@ CMPIObjectPath* endpoint_reference(const Target& target, const Port& port) {
   return std::visit(
       Overloaded{
           [&](const OwnPort& own) {
-            return pe_fill_reference_pm(target.class_name, target.name_space, &own.info,
+            return pe_fill_reference_pm(target.class_name, target.name_space, own.info.get(),
                                         target.broker);
           },
           [&](const LinkEnd& end) { return link_endpoint_reference(target, end); },
@@ -140,7 +140,7 @@ CMPIInstance* endpoint_instance(const Target& target, const Port& port) {
   return std::visit(
       Overloaded{
           [&](const OwnPort& own) {
-            return pe_build_instance_pm(target.class_name, target.name_space, &own.info,
+            return pe_build_instance_pm(target.class_name, target.name_space, own.info.get(),
                                         target.properties, target.broker);
           },
           [&](const LinkEnd& end) { return link_endpoint_instance(target, end); },

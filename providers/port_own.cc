@@ -76,8 +76,8 @@ bool ask_for_device_behind(int32_t q, const pm_port_info_& info, wwn_& device) {
 }
 
 bool device_behind(int32_t q, const OwnPort& port, wwn_& device) {
-  if (port.devices == nullptr) return ask_for_device_behind(q, port.info, device);
-  const auto found = port.devices->find(number_of(port.info.wwn));
+  if (port.devices == nullptr) return ask_for_device_behind(q, *port.info, device);
+  const auto found = port.devices->find(number_of(port.info->wwn));
   if (found == port.devices->end()) return false;
   device = found->second;
   return true;
@@ -85,7 +85,7 @@ bool device_behind(int32_t q, const OwnPort& port, wwn_& device) {
 
 std::string name_of(const OwnPort& port) {
   char name[64] = {};
-  sprintf_if_index(name, port.info.if_index);
+  sprintf_if_index(name, port.info->if_index);
   return name;
 }
 
@@ -131,7 +131,7 @@ std::optional<bool> read_auto_sense(const NewValues& values) {
 
 // The speed that a port is to have, 0 for that of the other end; nothing: as it is.
 std::optional<uint64_t> wanted_speed(const OwnPort& port, const NewValues& values) {
-  const uint64_t now = speed_of(port.info);
+  const uint64_t now = speed_of(*port.info);
   const auto auto_sense = read_auto_sense(values);
   const auto speed = read_speed(values);
   if (auto_sense == true && speed.value_or(0) != 0)
@@ -159,7 +159,7 @@ std::optional<uint16_t> wanted_type(const OwnPort& port, const NewValues& values
   std::string text;
   if (!values.text("RequestedType", text)) return std::nullopt;
   const auto type = read_number<uint16_t>(text.c_str());
-  if (type == pm_cim_convert_port_mode_fcportsettings(port.info.admin_mode)) return std::nullopt;
+  if (type == pm_cim_convert_port_mode_fcportsettings(port.info->admin_mode)) return std::nullopt;
   // What the capabilities tell. The library takes every other type for 17001.
   for (const uint16_t known : {4, 5, 6, 17001, 17002, 17016, 17064})
     if (type == known) return type;
@@ -167,19 +167,32 @@ std::optional<uint16_t> wanted_type(const OwnPort& port, const NewValues& values
                 "RequestedType is %.40s, not 4, 5, 6, 17001, 17002, 17016 or 17064", text.c_str());
 }
 
-// visit(const pm_port_info_&) for every interface, until it says false.
+// Without a record when there is none, or the port manager does not answer.
+OwnPort read_own_port(int32_t q, int32_t exact, uint32_t if_index) {
+  pm_port_info_* info = nullptr;
+  pm_cim_get_port_info(&info, exact, if_index, q);
+  return {std::shared_ptr<const pm_port_info_>(info, FreeCBlock()), nullptr};
+}
+
+// Asked of it is the first port channel: of this request the library tells the status, which is
+// negative when nobody answers.
+bool port_manager_answers(int32_t q) {
+  pm_port_channel_entry_ entry{};
+  return pm_cim_get_port_channel_entry(q, 0, 0, &entry) >= 0;
+}
+
+// visit(const OwnPort&) for every interface, until it says false.
 template <class Visit>
 void for_each_own_port(int32_t q, Visit visit) {
   std::unordered_set<uint32_t> seen;  // the indexes of one type may stand before those of another
   for (uint32_t if_index = 0;;) {
-    pm_port_info_* info = nullptr;
-    if (pm_cim_get_port_info(&info, 0, if_index, q) != 0) break;
-    const CBlock<pm_port_info_> owner(info);
-    if_index = info->if_index;
-    if (!seen.insert(if_index).second || !visit(*info)) return;
+    const OwnPort port = read_own_port(q, 0, if_index);
+    if (port.info == nullptr) break;
+    if_index = port.info->if_index;
+    if (!seen.insert(if_index).second || !visit(port)) return;
   }
-  if (seen.empty())
-    throw Failure(CMPI_RC_ERR_FAILED, "the port manager does not give the switch's interfaces");
+  if (seen.empty() && !port_manager_answers(q))
+    throw Failure(CMPI_RC_ERR_FAILED, "the port manager does not answer");
 }
 
 }  // namespace
@@ -201,8 +214,8 @@ PortKind kind_of(uint32_t if_index) {
 
 std::vector<OwnPort> own_ports(int32_t q, PortKind kind) {
   std::vector<OwnPort> ports;
-  for_each_own_port(q, [&](const pm_port_info_& info) {
-    if (kind_of(info.if_index) == kind) ports.push_back({info, nullptr});
+  for_each_own_port(q, [&](const OwnPort& port) {
+    if (kind_of(port.info->if_index) == kind) ports.push_back(port);
     return true;
   });
   return ports;
@@ -211,9 +224,9 @@ std::vector<OwnPort> own_ports(int32_t q, PortKind kind) {
 std::vector<OwnPort> own_ports_with_wwns(int32_t q) {
   std::vector<OwnPort> ports;
   std::unordered_set<uint64_t> listed;
-  for_each_own_port(q, [&](const pm_port_info_& info) {
-    if (has_wwn(info) && listed.insert(number_of(info.wwn)).second)
-      ports.push_back({info, nullptr});
+  for_each_own_port(q, [&](const OwnPort& port) {
+    if (has_wwn(*port.info) && listed.insert(number_of(port.info->wwn)).second)
+      ports.push_back(port);
     return true;
   });
   return ports;
@@ -224,10 +237,10 @@ std::vector<OwnPort> own_ports_with_wwn(int32_t q, const wwn_& wwn) {
   std::vector<OwnPort> found;
   if (wwn_cim_get_port_index_from_wwn_hex(&if_index, wwn.bytes, 0) == 0)
     found = own_port(q, kind_of(if_index), if_index);
-  if (!found.empty() && has_wwn(found[0].info) && same_wwn(found[0].info.wwn, wwn)) return found;
+  if (!found.empty() && has_wwn(*found[0].info) && same_wwn(found[0].info->wwn, wwn)) return found;
   found.clear();
-  for_each_own_port(q, [&](const pm_port_info_& info) {
-    if (has_wwn(info) && same_wwn(info.wwn, wwn)) found.push_back({info, nullptr});
+  for_each_own_port(q, [&](const OwnPort& port) {
+    if (has_wwn(*port.info) && same_wwn(port.info->wwn, wwn)) found.push_back(port);
     return found.empty();
   });
   return found;
@@ -235,10 +248,9 @@ std::vector<OwnPort> own_ports_with_wwn(int32_t q, const wwn_& wwn) {
 
 std::vector<OwnPort> own_port(int32_t q, PortKind kind, uint32_t if_index) {
   if (kind_of(if_index) != kind) return {};
-  pm_port_info_* info = nullptr;
-  if (pm_cim_get_port_info(&info, 1, if_index, q) != 0) return {};
-  const CBlock<pm_port_info_> owner(info);
-  return {OwnPort{*info, nullptr}};
+  OwnPort port = read_own_port(q, 1, if_index);
+  if (port.info == nullptr) return {};
+  return {std::move(port)};
 }
 
 std::vector<OwnPort> own_ports_named(int32_t q, PortKind kind, const ObjectName& name) {
@@ -267,16 +279,17 @@ void complete_port_number(const Target& target, uint32_t if_index, CMPIInstance*
 }
 
 CMPIObjectPath* own_port_reference(const Target& target, const OwnPort& port) {
-  return fcport_fill_reference_pm(target.name_space, target.class_name, &port.info, target.broker);
+  return fcport_fill_reference_pm(target.name_space, target.class_name, port.info.get(),
+                                  target.broker);
 }
 
 CMPIInstance* own_port_instance(const Target& target, const OwnPort& port) {
-  CMPIInstance* instance = fcport_build_instance_pm(target.class_name, target.name_space,
-                                                    &port.info, target.properties, target.broker);
+  CMPIInstance* instance = fcport_build_instance_pm(
+      target.class_name, target.name_space, port.info.get(), target.properties, target.broker);
   if (instance == nullptr) return nullptr;
-  complete_port_number(target, port.info.if_index, instance);
+  complete_port_number(target, port.info->if_index, instance);
   wwn_ device;
-  if (is_fabric_port(port.info) && wants(target, "PeerPortWWN") &&
+  if (is_fabric_port(*port.info) && wants(target, "PeerPortWWN") &&
       device_behind(queue::handle(), port, device)) {
     const std::string text = text_of(device);
     instance->ft->setProperty(instance, "PeerPortWWN",
@@ -286,20 +299,22 @@ CMPIInstance* own_port_instance(const Target& target, const OwnPort& port) {
 }
 
 CMPIObjectPath* port_capabilities_reference(const Target& target, const OwnPort& port) {
-  return fcport_cap_fill_reference(target.class_name, target.name_space, &port.info, target.broker);
+  return fcport_cap_fill_reference(target.class_name, target.name_space, port.info.get(),
+                                   target.broker);
 }
 
 CMPIInstance* port_capabilities_instance(const Target& target, const OwnPort& port) {
-  return fcport_cap_build_instance(target.class_name, target.name_space, &port.info,
+  return fcport_cap_build_instance(target.class_name, target.name_space, port.info.get(),
                                    target.properties, target.broker);
 }
 
 CMPIObjectPath* port_settings_reference(const Target& target, const OwnPort& port) {
-  return fcport_set_fill_reference(target.class_name, target.name_space, &port.info, target.broker);
+  return fcport_set_fill_reference(target.class_name, target.name_space, port.info.get(),
+                                   target.broker);
 }
 
 CMPIInstance* port_settings_instance(const Target& target, const OwnPort& port) {
-  return fcport_set_build_instance(target.class_name, target.name_space, &port.info,
+  return fcport_set_build_instance(target.class_name, target.name_space, port.info.get(),
                                    target.properties, target.broker);
 }
 
@@ -312,35 +327,35 @@ void modify_own_port(int32_t q, const OwnPort& port, const NewValues& values) {
     throw Failure(CMPI_RC_ERR_INVALID_PARAMETER,
                   "ElementName has %zu characters: the alias of a port has at most %d",
                   alias.size(), PM_MAX_ALIAS_LENGTH);
-  const uint8_t type = type_of(port.info.if_index);
+  const uint8_t type = type_of(port.info->if_index);
   if (type == PM_IF_FCIP || type == PM_IF_ISCSI)
     throw Failure(CMPI_RC_ERR_NOT_SUPPORTED, "%s has no alias: it is an FCIP or iSCSI interface",
                   name_of(port).c_str());
-  check(pm_cim_set_port_alias(alias.c_str(), port.info.if_index, q), port, "alias");
+  check(pm_cim_set_port_alias(alias.c_str(), port.info->if_index, q), port, "alias");
 }
 
 uint32_t request_own_port_state(int32_t q, const OwnPort& port, const Arguments& arguments) {
   std::string text;
   if (!arguments.text("RequestedState", text) || (text != "2" && text != "3")) return kStateInvalid;
-  if (type_of(port.info.if_index) == PM_IF_PORT_CHANNEL) return kStateNotSupported;
+  if (type_of(port.info->if_index) == PM_IF_PORT_CHANNEL) return kStateNotSupported;
   const uint32_t state = text == "2" ? 2 : 3;
-  if (pm_cim_set_port_admin_status(state, port.info.if_index, q) != 0) return kStateRefused;
+  if (pm_cim_set_port_admin_status(state, port.info->if_index, q) != 0) return kStateRefused;
   // The library does not tell what the port manager says of the change; the port does.
-  const auto after = own_port(q, kind_of(port.info.if_index), port.info.if_index);
+  const auto after = own_port(q, kind_of(port.info->if_index), port.info->if_index);
   const bool changed =
-      !after.empty() && pm_cim_convert_port_enable_state(after[0].info.admin_state) == state;
+      !after.empty() && pm_cim_convert_port_enable_state(after[0].info->admin_state) == state;
   return changed ? kStateChanged : kStateRefused;
 }
 
 void modify_port_settings(int32_t q, const OwnPort& port, const NewValues& values) {
   const auto speed = wanted_speed(port, values);
   const auto type = wanted_type(port, values);
-  const uint32_t if_index = port.info.if_index;
+  const uint32_t if_index = port.info->if_index;
   if (speed) check(pm_cim_set_port_admin_speed(*speed, if_index, q), port, "speed");
   if (!type) return;
   const int32_t status = pm_cim_set_port_admin_mode(*type, if_index, q);
   if (status == 0) return;
-  const uint64_t old = speed_of(port.info);
+  const uint64_t old = speed_of(*port.info);
   if (speed && (!can_be_set(old) || pm_cim_set_port_admin_speed(old, if_index, q) != 0))
     throw Failure(CMPI_RC_ERR_FAILED,
                   "the port manager refuses the type of %s (status %d), and keeps the new speed",

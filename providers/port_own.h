@@ -19,7 +19,8 @@ namespace vexor::providers {
 using DevicesBehindPorts = std::unordered_map<uint64_t, wwn_>;
 
 struct OwnPort {
-  pm_port_info_ info;
+  // As the port manager gave it, never copied: how long a record is belongs to the platform.
+  std::shared_ptr<const pm_port_info_> info;
   // Set where all devices were read anyway; without it the name server is asked for those behind
   // the port when an instance shows them.
   std::shared_ptr<const DevicesBehindPorts> devices;
@@ -33,8 +34,8 @@ PortKind kind_of(uint32_t if_index);
 // One exchange with the port manager for each interface, one for each of its types, and one with
 // the IP configuration for each that may have an address. An interface that vanishes on the way is
 // passed over. When the port manager stops answering on the way, the interfaces read until then are
-// the result: the library does not tell the difference. Throws Failure when there are none at all,
-// which no switch has.
+// the result: the library does not tell the difference. Throws Failure when there are none at all
+// and the port manager does not answer.
 std::vector<OwnPort> own_ports(int32_t q, PortKind kind);
 
 // Those of both kinds that have a WWN, each WWN once.

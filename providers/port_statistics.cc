@@ -23,7 +23,7 @@ constexpr PortKind kKind = PortKind::fibre_channel;
 std::vector<PortCounters> port_counters(int32_t q) {
   std::vector<PortCounters> found;
   for (const OwnPort& port : own_ports(q, kKind))
-    if (PortCounters counters = counters_of(q, port.info.if_index); counters != nullptr)
+    if (PortCounters counters = counters_of(q, port.info->if_index); counters != nullptr)
       found.push_back(std::move(counters));
   return found;
 }
@@ -63,22 +63,22 @@ std::vector<OwnPort> statistical_data_of(int32_t q, const char* role, const Obje
 }
 
 CMPIObjectPath* statistical_data_reference(const Target& target, const OwnPort& port) {
-  return port_stat_fill_reference_pm(target.class_name, target.name_space, &port.info,
+  return port_stat_fill_reference_pm(target.class_name, target.name_space, port.info.get(),
                                      target.broker);
 }
 
 CMPIInstance* statistical_data_instance(const Target& target, const OwnPort& port) {
-  return port_stat_build_instance_pm(target.class_name, target.name_space, &port.info,
+  return port_stat_build_instance_pm(target.class_name, target.name_space, port.info.get(),
                                      target.broker);
 }
 
 CMPIObjectPath* statistics_end_reference(const Target& target, const OwnPort& port) {
-  return fcport_stat_fill_reference(target.name_space, target.class_name, port.info.if_index,
+  return fcport_stat_fill_reference(target.name_space, target.class_name, port.info->if_index,
                                     target.broker);
 }
 
 CMPIInstance* statistics_end_instance(const Target& target, const OwnPort& port) {
-  const PortCounters counters = counters_of(queue::handle(), port.info.if_index);
+  const PortCounters counters = counters_of(queue::handle(), port.info->if_index);
   return counters != nullptr ? port_counters_instance(target, counters) : nullptr;
 }
 

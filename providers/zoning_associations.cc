@@ -2,6 +2,7 @@
 
 #include <cim_utils/cmpi_switch.h>
 #include <cim_utils/cmpi_zoning.h>
+#include <cim_utils/vsan.h>
 #include <cim_utils/zoning_changes.h>
 #include <cim_utils/zoning_queries.h>
 #include <strings.h>
@@ -129,6 +130,15 @@ void add_hosted(int32_t q, const VsanRecord& record, std::vector<HostedZoning>& 
     add_hosted<zs_cim_zone_>(q, vsan, active, found);
     add_hosted<zs_cim_alias_>(q, vsan, active, found);
   }
+}
+
+// Spares the reading of zoning where a name stands for no VSAN and all of them are to be compared.
+bool may_have_name(const VsanRecord& vsan, const ObjectName& name) {
+  const char* wanted = name.text("Name");
+  if (wanted == nullptr || std::strchr(wanted, ':') != nullptr) return wanted != nullptr;
+  char text[ZS_CIM_INSTANCE_ID_ROOM] = {};
+  return vsan_cim_get_vsan_admindomain_key(text, configuration(vsan)) == 0 &&
+         std::strcmp(text, wanted) == 0;
 }
 
 void check_made(ZoneServiceResult result, const char* what) {
@@ -356,7 +366,7 @@ std::vector<HostedZoning> hosted_zoning_of(int32_t q, const char* role, const Ob
   std::vector<HostedZoning> found;
   if (same_name(role, "Antecedent")) {
     for (const VsanRecord& vsan : vsans_named(q, object))
-      add_hosted(q, vsan, found);
+      if (may_have_name(vsan, object)) add_hosted(q, vsan, found);
     return found;
   }
   const auto from = start_of(object);

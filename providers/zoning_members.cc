@@ -2,6 +2,7 @@
 
 #include <cim_utils/cmpi_zoning.h>
 #include <cim_utils/collections.h>
+#include <cim_utils/vsan.h>
 #include <cim_utils/zoning_changes.h>
 #include <cim_utils/zoning_identifiers.h>
 #include <cim_utils/zoning_queries.h>
@@ -267,7 +268,7 @@ std::optional<MemberId> read_member_id(const char* instance_id) {
   uint32_t vsan = 0;
   const auto [stopped, error] = std::from_chars(text.data(), text.data() + first, vsan);
   if (error != std::errc{} || stopped != text.data() + first || text.front() == '0' ||
-      (active != "0" && active != "1"))
+      (active != "0" && active != "1") || vsan_cim_check_vsan_index(vsan) != 0)
     return std::nullopt;
   return MemberId{vsan, active == "1"};
 }

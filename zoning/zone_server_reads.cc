@@ -28,20 +28,27 @@ int32_t read_with(ReadOne read_one, ReadAll read_all, int32_t q, uint32_t id, ui
 
 }  // namespace
 
+// The zone server's functions are called and their addresses never taken: a process that only
+// loads the library need not have them.
 int32_t read_entries(int32_t q, uint32_t id, uint32_t vsan, int32_t active,
                      Entries<zs_zone_set_entry_>* entries) {
-  return read_with(zs_cmi_get_zone_set, zs_cmi_get_all_zone_sets_in_vsan, q, id, vsan, active,
-                   entries);
+  return read_with([](auto... arguments) { return zs_cmi_get_zone_set(arguments...); },
+                   [](auto... arguments) { return zs_cmi_get_all_zone_sets_in_vsan(arguments...); },
+                   q, id, vsan, active, entries);
 }
 
 int32_t read_entries(int32_t q, uint32_t id, uint32_t vsan, int32_t active,
                      Entries<zs_zone_entry_>* entries) {
-  return read_with(zs_cmi_get_zone, zs_cmi_get_all_zones_in_vsan, q, id, vsan, active, entries);
+  return read_with([](auto... arguments) { return zs_cmi_get_zone(arguments...); },
+                   [](auto... arguments) { return zs_cmi_get_all_zones_in_vsan(arguments...); }, q,
+                   id, vsan, active, entries);
 }
 
 int32_t read_entries(int32_t q, uint32_t id, uint32_t vsan, int32_t active,
                      Entries<zs_alias_entry_>* entries) {
-  return read_with(zs_cmi_get_alias, zs_cmi_get_all_aliases_in_vsan, q, id, vsan, active, entries);
+  return read_with([](auto... arguments) { return zs_cmi_get_alias(arguments...); },
+                   [](auto... arguments) { return zs_cmi_get_all_aliases_in_vsan(arguments...); },
+                   q, id, vsan, active, entries);
 }
 
 int32_t read_raw(int32_t q, uint32_t id, uint32_t vsan, int32_t active,

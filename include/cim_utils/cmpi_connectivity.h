@@ -102,7 +102,8 @@ CIM_UTILS_EXPORT CMPIObjectPath* system_device_fill_reference(const char* classN
                                                               const CMPIBroker* broker);
 
 /* The connection of a link between switches: "Antecedent" its far end, "Dependent" the end that
- * advertised it. interface is handed to pe_fill_reference_fspf. */
+ * advertised it. interface is the queue handle on which the domain manager is asked for the
+ * switches of both ends. */
 CIM_UTILS_EXPORT CMPIInstance* active_connection_build_instance_fspf(const char* className,
                                                                      const char* nameSpace,
                                                                      const fspfLinkEntry* link,

@@ -66,8 +66,6 @@ class CIM_UTILS_EXPORT ComputerSystem {
   int getResetCapability(Pegasus::CIMProperty& property);
 
  private:
-  char* keep(const char* text);
-
   // The handle is the first member: providers rely on its place.
   int queue_;
   char text_[256] = {};

@@ -715,7 +715,8 @@ class CIM_UTILS_EXPORT ProviderUtil {
                                                        Pegasus::CIMObjectPath deviceRef);
 
   // The connection of a link between switches: "Antecedent" its far end, "Dependent" the end that
-  // advertised it. interface is handed to pe_fill_reference_fspf.
+  // advertised it. interface is the queue handle on which the domain manager is asked for the
+  // switches of both ends.
   static Pegasus::CIMObjectPath active_connection_fill_reference(const char* className,
                                                                  const Pegasus::String& nameSpace,
                                                                  fspfLinkEntry* link,

@@ -2,7 +2,9 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <regex>
@@ -55,12 +57,56 @@ std::set<std::string> exported() {
   return names;
 }
 
-std::vector<std::string> listed() {
-  std::vector<std::string> names;
+constexpr const char* kFamily = "\tfamily";
+
+// The lines of the list, with their marks.
+std::vector<std::string> lines() {
+  std::vector<std::string> result;
   std::ifstream in(std::string(CIM_SOURCE_DIR) + "/tests/exports/public_names.txt");
   for (std::string line; std::getline(in, line);)
-    if (!line.empty() && line[0] != '#') names.push_back(line);
+    if (!line.empty() && line[0] != '#') result.push_back(line);
+  return result;
+}
+
+std::vector<std::string> listed() {
+  std::vector<std::string> names = lines();
+  for (std::string& name : names)
+    name.erase(std::min(name.find('\t'), name.size()));
   return names;
+}
+
+// What the names of a family begin with: the class of a builder, or the C++ class of a constructor.
+std::string family_of(const std::string& name) {
+  for (const char* operation : {"_build_", "_fill_"}) {
+    const auto at = name.find(operation);
+    if (at != std::string::npos) return name.substr(0, at);
+  }
+  const auto at = name.find("::");
+  return at != std::string::npos ? name.substr(0, at + 2) : name;
+}
+
+std::string without_class(const std::string& name) {
+  return name.starts_with("ProviderUtil::") ? name.substr(std::strlen("ProviderUtil::")) : name;
+}
+
+TEST(Exports, AMarkedNameCompletesAFamilyOfPublishedNames) {
+  std::vector<std::string> published;
+  std::vector<std::string> marked;
+  for (const std::string& line : lines()) {
+    if (line.find('\t') == std::string::npos) {
+      published.push_back(without_class(line));
+    } else {
+      ASSERT_TRUE(line.ends_with(kFamily)) << line;
+      marked.push_back(without_class(line.substr(0, line.find('\t'))));
+    }
+  }
+  EXPECT_FALSE(marked.empty());
+  for (const std::string& name : marked) {
+    const std::string family = family_of(name);
+    EXPECT_TRUE(std::any_of(published.begin(), published.end(), [&](const std::string& other) {
+      return family_of(other) == family;
+    })) << name;
+  }
 }
 
 TEST(Exports, AreExactlyThePublicNames) {

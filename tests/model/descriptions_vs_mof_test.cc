@@ -2,20 +2,27 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <optional>
 #include <set>
 
 #include "model/computer_system.h"
+#include "model/connectivity.h"
+#include "model/hardware.h"
 #include "model/port_classes.h"
 #include "model/port_endpoints.h"
 #include "model/port_statistics.h"
 #include "model/switch_classes.h"
+#include "model/zoning_classes.h"
 #include "schema/repository.h"
 #include "tests/model/computer_system_records.h"
+#include "tests/model/hardware_records.h"
 #include "tests/model/listing_builder.h"
 #include "tests/model/port_records.h"
 #include "tests/model/switch_records.h"
 #include "tests/model/switch_replies.h"
+#include "tests/model/zoning_records.h"
 #include "tests/support/capture.h"
+#include "tests/support/double_zone_server.h"
 #include "tests/support/os_double.h"
 
 using namespace cim_utils::model;
@@ -26,6 +33,8 @@ struct Description {
   const char* cls;
   bool instance;
   std::function<void(Builder&)> write;
+  // What is asked of services that are not reached by messages.
+  std::function<void(test_support::Script&)> lines = nullptr;
 };
 
 const std::vector<Description>& port_descriptions() {
@@ -98,6 +107,9 @@ struct KeptDifference {
 constexpr KeptDifference kKeptDifferences[] = {
     {"VEXOR_FCPort", "PortNumber", "sint32"},
     {"VEXOR_EthernetPort", "PortNumber", "sint32"},
+    {"VEXOR_LogicalModule", "EnabledState", "uint16[]"},
+    {"VEXOR_LogicalModule", "RequestedState", "uint16[]"},
+    {"VEXOR_LogicalModule", "EnabledDefault", "uint16[]"},
 };
 
 const KeptDifference* kept_difference(const std::string& cls, const ListingBuilder::Entry& entry) {
@@ -185,10 +197,129 @@ const std::vector<Description>& switch_descriptions() {
   return all;
 }
 
+const std::vector<Description>& zoning_descriptions() {
+  static zs_cim_zone_set_ set = records::zone_set_7();
+  static zs_cim_zone_ zone = records::zone_12();
+  static zs_cim_alias_ alias = records::alias_4();
+  static zs_cim_zone_member_ member = records::member_of_fcid();
+  static vsanNewEntry_t vsan = records::vsan_10();
+  static mts_dm_sw_conf_ conf = records::configuration_10();
+  static const VsanRecords of_vsan{&vsan, &conf};
+  constexpr const char* ns = "root/cimv2";
+  constexpr const char* id = "10_7_1";
+  constexpr const char* service = "VEXOR_ZoneService";
+  constexpr const char* capabilities = "VEXOR_ZoneCapabilities";
+  constexpr const char* data = "VEXOR_ZoneMemberSettingData";
+  constexpr const char* collects = "VEXOR_ZoneMemberOfCollection";
+  constexpr const char* has = "VEXOR_ZoneElementSettingData";
+  constexpr const char* hosts = "VEXOR_ZoneHostedCollection";
+  constexpr const char* hosts_collection = "VEXOR_HostedCollection";
+  constexpr const char* hosts_service = "VEXOR_HostedService";
+  const auto no_policy = [](test_support::Script& script) {
+    script.expect(test_support::query_policies(10)).fails(17);
+  };
+  static const std::vector<Description> all = {
+      {"VEXOR_ZoneSet", false, [](Builder& b) { zone_set_reference(b, "VEXOR_ZoneSet", ns, id); }},
+      {"VEXOR_ZoneSet", true,
+       [](Builder& b) { zone_set_instance(b, "VEXOR_ZoneSet", ns, &set, nullptr); }},
+      {"VEXOR_Zone", false, [](Builder& b) { zone_reference(b, "VEXOR_Zone", ns, id); }},
+      {"VEXOR_Zone", true, [](Builder& b) { zone_instance(b, "VEXOR_Zone", ns, &zone, nullptr); }},
+      {"VEXOR_ZoneAlias", false,
+       [](Builder& b) { zone_alias_reference(b, "VEXOR_ZoneAlias", ns, id); }},
+      {"VEXOR_ZoneAlias", true,
+       [](Builder& b) { zone_alias_instance(b, "VEXOR_ZoneAlias", ns, &alias, nullptr); }},
+      {data, false, [](Builder& b) { zone_member_reference(b, data, ns, id); }},
+      {data, true, [](Builder& b) { zone_member_instance(b, data, ns, &member, nullptr); }},
+      {service, false, [](Builder& b) { zone_service_reference(b, service, ns, 10); }},
+      {service, true, [](Builder& b) { zone_service_instance(b, service, ns, 10); }, no_policy},
+      {capabilities, false,
+       [](Builder& b) { zone_capabilities_reference(b, capabilities, ns, id); }},
+      {capabilities, true, [](Builder& b) { zone_capabilities_instance(b, capabilities, ns, id); }},
+      {collects, false, [](Builder& b) { zone_set_zone_reference(b, collects, ns, id, id); }},
+      {collects, true, [](Builder& b) { zone_set_zone_instance(b, collects, ns, id, id); }},
+      {collects, false,
+       [](Builder& b) { zone_zone_alias_reference(b, collects, ns, &zone, &alias); }},
+      {collects, true,
+       [](Builder& b) { zone_zone_alias_instance(b, collects, ns, &zone, &alias); }},
+      {has, false, [](Builder& b) { zone_zone_member_reference(b, has, ns, &zone, &member); }},
+      {has, true, [](Builder& b) { zone_zone_member_instance(b, has, ns, &zone, &member); }},
+      {has, false,
+       [](Builder& b) { zone_alias_zone_member_reference(b, has, ns, &alias, &member); }},
+      {has, true, [](Builder& b) { zone_alias_zone_member_instance(b, has, ns, &alias, &member); }},
+      {hosts_collection, false,
+       [](Builder& b) { hosted_collection_reference(b, hosts_collection, ns, of_vsan, 10); }},
+      {hosts_collection, true,
+       [](Builder& b) { hosted_collection_instance(b, hosts_collection, ns, of_vsan, 10); }},
+      {hosts, false, [](Builder& b) { hosted_zone_set_reference(b, hosts, ns, of_vsan, &set); }},
+      {hosts, true, [](Builder& b) { hosted_zone_set_instance(b, hosts, ns, of_vsan, &set); }},
+      {hosts, false, [](Builder& b) { hosted_zone_reference(b, hosts, ns, of_vsan, &zone); }},
+      {hosts, true, [](Builder& b) { hosted_zone_instance(b, hosts, ns, of_vsan, &zone); }},
+      {hosts, false,
+       [](Builder& b) { hosted_zone_alias_reference(b, hosts, ns, of_vsan, &alias); }},
+      {hosts, true, [](Builder& b) { hosted_zone_alias_instance(b, hosts, ns, of_vsan, &alias); }},
+      {hosts_service, false,
+       [](Builder& b) { hosted_service_reference(b, hosts_service, ns, of_vsan); }},
+      {hosts_service, true,
+       [](Builder& b) { hosted_service_instance(b, hosts_service, ns, of_vsan); }},
+  };
+  return all;
+}
+
+class FixedTexts final : public ChassisTexts {
+ public:
+  const char* system_name() override { return "2000000DEC0A1B3C"; }
+  const char* product_name() override { return "QRX4200"; }
+  const char* vendor() override { return "Vexor"; }
+  const char* model() override { return "QRX4200"; }
+  const char* version() override { return "3.2"; }
+};
+
+const std::vector<Description>& hardware_descriptions() {
+  static FixedTexts texts;
+  static pm_port_info_ port = records::fc12();
+  static _vefcModuleEntry module = records::module_22();
+  static _entPhysicalEntry entity = records::entity_22();
+  constexpr const char* ns = "root/cimv2";
+  constexpr const char* product = "VEXOR_Product";
+  constexpr const char* package = "VEXOR_PhysicalPackage";
+  constexpr const char* element = "VEXOR_PhysicalElement";
+  constexpr const char* card = "VEXOR_LogicalModule";
+  constexpr const char* housing = "VEXOR_ComputerSystemPackage";
+  constexpr const char* remote = "VEXOR_RemoteServiceAccessPoint";
+  const auto no_prom = [](test_support::Script& script) {
+    script.expect(test_support::read_chassis_prom()).fails(17);
+  };
+  const auto slot_3 = [](test_support::Script& script) {
+    script.expect(test_support::slot_of_entity(22)).gives(3);
+  };
+  static const std::vector<Description> all = {
+      {product, false, [](Builder& b) { product_reference(b, product, ns, texts); }},
+      {product, true, [](Builder& b) { product_instance(b, product, ns, texts); }},
+      {package, false, [](Builder& b) { physical_package_reference(b, package, ns, texts); }},
+      {package, true, [](Builder& b) { physical_package_instance(b, package, ns, texts); },
+       no_prom},
+      {element, false, [](Builder& b) { physical_element_reference(b, element, ns, &port); }},
+      {element, true, [](Builder& b) { physical_element_instance(b, element, ns, &port, texts); },
+       no_prom},
+      {card, false, [](Builder& b) { logical_module_reference(b, card, ns, card, &module); }},
+      {card, true, [](Builder& b) { logical_module_instance(b, card, ns, card, &module, &entity); },
+       slot_3},
+      {housing, false, [](Builder& b) { switch_package_reference(b, housing, ns, texts); }},
+      {housing, true, [](Builder& b) { switch_package_instance(b, housing, housing, ns, texts); }},
+      {remote, false,
+       [](Builder& b) { remote_access_point_reference(b, remote, ns, "10.0.0.7", "A"); }},
+      {remote, true,
+       [](Builder& b) { remote_access_point_instance(b, remote, ns, "10.0.0.7", "A"); }},
+  };
+  return all;
+}
+
 const std::vector<Description>& descriptions() {
   static const std::vector<Description> all = [] {
-    std::vector<Description> together = switch_descriptions();
-    together.insert(together.end(), port_descriptions().begin(), port_descriptions().end());
+    std::vector<Description> together;
+    for (const auto* area : {&switch_descriptions(), &port_descriptions(), &zoning_descriptions(),
+                             &hardware_descriptions()})
+      together.insert(together.end(), area->begin(), area->end());
     return together;
   }();
   return all;
@@ -209,6 +340,8 @@ ListingBuilder::Listed written(const Description& description, Face face) {
   system.address("switch-1", 10, 0, 0, 1);
   test_support::StdioCapture traces;
   test_support::Responder services(answer);
+  std::optional<test_support::Script> others;
+  if (description.lines) description.lines(others.emplace());
   ListingBuilder builder(face);
   description.write(builder);
   EXPECT_FALSE(builder.listed().empty()) << description.cls;

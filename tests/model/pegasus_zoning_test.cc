@@ -4,9 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <Pegasus/Common/CIMName.h>
+#include <Pegasus/Common/Exception.h>
 #include <Pegasus/Common/String.h>
 
 #include <functional>
+#include <new>
+#include <optional>
 
 #include "tests/model/class_source_double.h"
 #include "tests/model/pegasus_text.h"
@@ -15,6 +18,7 @@
 #include "tests/model/zoning_records.h"
 #include "tests/support/capture.h"
 #include "tests/support/double_zone_server.h"
+#include "tests/support/heap_ledger.h"
 
 using namespace test_support;
 using Pegasus::CIMInstance;
@@ -295,6 +299,10 @@ TEST_F(PegasusZoning, NoRecordAndNoIdMakeAnUninitializedObject) {
       ProviderUtil::zone_set_fill_reference(kNamespace, "C", nullptr).getClassName().isNull());
   EXPECT_TRUE(ProviderUtil::zone_fill_reference(kNamespace, "C", nullptr).getClassName().isNull());
   EXPECT_TRUE(
+      ProviderUtil::zone_alias_fill_reference(kNamespace, "C", nullptr).getClassName().isNull());
+  EXPECT_TRUE(
+      ProviderUtil::zone_member_fill_reference(kNamespace, "C", nullptr).getClassName().isNull());
+  EXPECT_TRUE(
       ProviderUtil::zone_cap_fill_reference(kNamespace, "C", nullptr).getClassName().isNull());
   EXPECT_TRUE(ProviderUtil::zone_set_build_instance(kNamespace, "C", nullptr).isUninitialized());
   EXPECT_TRUE(ProviderUtil::zone_build_instance(kNamespace, "C", nullptr).isUninitialized());
@@ -310,6 +318,98 @@ TEST_F(PegasusZoning, AnAssociationLeavesOutAnEndWithoutARecord) {
   expect(ProviderUtil::zmoc_fill_reference_MemberCollection(kNamespace, "C", CIMObjectPath(),
                                                             CIMObjectPath()),
          "path HOST root/cimv2 C\n");
+}
+
+TEST_F(PegasusZoning, WithoutItsServicesAZoneServiceIsOnTheSystemOfItsNumber) {
+  Responder services([](const Request&) { return Response::failed(17); });
+  Script script;
+  for (int i = 0; i < 2; ++i)
+    script.expect(query_policies(10)).fails(17);
+  const std::string path =
+      "path HOST root/cimv2 VEXOR_ZoneService\nkey CreationClassName = VEXOR_ZoneService\n"
+      "key Name = 10\nkey SystemCreationClassName = VEXOR_Vsan\nkey SystemName = 10\n";
+  expect(ProviderUtil::zone_service_fill_reference(kNamespace, "VEXOR_ZoneService", 10), path);
+  for (const CIMInstance& made :
+       {ProviderUtil::zone_service_build_instance(kNamespace, "VEXOR_ZoneService", 10),
+        CIMInstance(
+            ProviderUtil::zone_service_build_object(kNamespace, "VEXOR_ZoneService", 10))}) {
+    const std::string text = pegasus_text::of(made);
+    EXPECT_NE(text.find("property SystemName string 10\n"), std::string::npos);
+    EXPECT_NE(text.find("property defaultZoningState uint16 0\n"), std::string::npos);
+    EXPECT_EQ(pegasus_text::of(made.getPath()), path);
+  }
+}
+
+TEST_F(PegasusZoning, WithoutItsServicesAHostedServicesEndIsOnTheSystemOfItsNumber) {
+  Responder services([](const Request&) { return Response::failed(17); });
+  const std::string service =
+      "//HOST/root/cimv2:VEXOR_ZoneService.CreationClassName=\"VEXOR_ZoneService\",Name=\"10\","
+      "SystemCreationClassName=\"VEXOR_Vsan\",SystemName=\"10\"";
+  expect_association(ProviderUtil::hosted_service_fill_reference("D", kNamespace, &vsan_, &conf_),
+                     ProviderUtil::hosted_service_build_instance("D", kNamespace, &vsan_, &conf_),
+                     ProviderUtil::hosted_service_build_object("D", kNamespace, &vsan_, &conf_),
+                     "D", "Antecedent", kVsanKeys, "Dependent", service);
+}
+
+TEST_F(PegasusZoning, EveryAssociationLeavesOutItsEndsWithoutRecords) {
+  using P = ProviderUtil;
+  const Script script;
+  const CIMInstance made[] = {
+      P::zmoc_build_instance_zoneSetZone(kNamespace, "C", nullptr, nullptr),
+      P::zmoc_build_instance(kNamespace, "C", nullptr, nullptr),
+      P::zmoc_build_instance_MemberCollection(kNamespace, "C", CIMObjectPath(), CIMObjectPath()),
+      P::esd_build_instance_zoneZoneMember(kNamespace, "E", nullptr, nullptr),
+      P::esd_build_instance_zoneAliasZoneMember(kNamespace, "E", nullptr, nullptr),
+      P::hosted_collection_build_instance_zset(kNamespace, "D", nullptr, nullptr, nullptr),
+      P::hosted_collection_build_instance_zone(kNamespace, "D", nullptr, nullptr, nullptr),
+      P::hosted_collection_build_instance_zalias(kNamespace, "D", nullptr, nullptr, nullptr),
+      P::hosted_service_build_instance("D", kNamespace, nullptr, nullptr),
+      P::zhc_build_instance(kNamespace, "D", CIMObjectPath(), CIMObjectPath())};
+  for (const CIMInstance& instance : made) {
+    EXPECT_EQ(instance.getPropertyCount(), 0u);
+    EXPECT_EQ(instance.getPath().getKeyBindings().size(), 0u);
+  }
+  EXPECT_EQ(
+      P::hosted_collection_build_instance(kNamespace, "D", nullptr, nullptr, 10).getPropertyCount(),
+      1u);
+}
+
+TEST_F(PegasusZoning, EveryExceptionIsTheCallers) {
+  using P = ProviderUtil;
+  using Pegasus::Exception;
+  const String bad("root/c i m");
+  EXPECT_THROW(P::zone_set_fill_reference(bad, "C", &zone_set_), Exception);
+  EXPECT_THROW(P::zone_build_instance(kNamespace, "no class", &zone_), Exception);
+  EXPECT_THROW(P::zmoc_fill_reference(bad, "C", &zone_, &alias_), Exception);
+  EXPECT_THROW(P::hosted_collection_build_object(bad, "D", &vsan_, &conf_, 10), Exception);
+}
+
+TEST_F(PegasusZoning, EveryFailingAllocationIsTheCallersException) {
+  const std::function<CIMInstance()> builders[] = {
+      [this] { return ProviderUtil::zone_set_build_instance(kNamespace, "C", &zone_set_); },
+      [this] { return ProviderUtil::zone_build_instance(kNamespace, "C", &zone_); },
+      [this] {
+        return ProviderUtil::hosted_collection_build_instance_zone(kNamespace, "D", &vsan_, &conf_,
+                                                                   &zone_);
+      }};
+  for (const auto& build : builders) {
+    const std::string whole = pegasus_text::of(build());
+    const size_t rounds = for_every_failing_allocation([&](FailingAllocation& round) {
+      std::optional<CIMInstance> built;
+      round.attempt([&] {
+        try {
+          built = build();
+        } catch (const std::bad_alloc&) {
+        }
+      });
+      // Sorting the keys gets along without the memory that it asks for.
+      EXPECT_TRUE(built.has_value() || round.was_hit()) << round.n();
+      if (built.has_value()) {
+        EXPECT_EQ(pegasus_text::of(*built), whole) << round.n();
+      }
+    });
+    EXPECT_GT(rounds, 10u);
+  }
 }
 
 }  // namespace

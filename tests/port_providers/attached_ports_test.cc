@@ -28,7 +28,7 @@ TEST_F(AttachedPorts, TheDevicesSideShowsTheDevice) {
   EXPECT_EQ(value(port, "PeerPortWWN"), "2041000DEC0A1B2C");
   EXPECT_EQ(value(port, "VsanId"), "1");
   EXPECT_EQ(value(port, "PortType"), "10");
-  EXPECT_EQ(value(port, "OtherIdentifyingInfo"), "{\"2000001122334401\"}");
+  EXPECT_EQ(value(port, "OtherIdentifyingInfo"), "2000001122334401");
 }
 
 TEST_F(AttachedPorts, TheFabricSideShowsTheSwitchPort) {

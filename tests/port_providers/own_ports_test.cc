@@ -15,7 +15,7 @@ TEST_F(OwnPorts, AnFPortShowsItsStateItsVsanAndTheDeviceBehindIt) {
   EXPECT_EQ(value(port, "ElementName"), "fc1/1");
   EXPECT_EQ(value(port, "Description"), "host-a");
   EXPECT_EQ(value(port, "Caption"), "VEXOR_FCPort");
-  EXPECT_EQ(value(port, "OperationalStatus"), "{2}");
+  EXPECT_EQ(value(port, "OperationalStatus"), "2");
   EXPECT_EQ(value(port, "EnabledState"), "2");
   EXPECT_EQ(value(port, "EnabledDefault"), "2");
   EXPECT_EQ(value(port, "PermanentAddress"), "2041000DEC0A1B2C");
@@ -121,7 +121,7 @@ TEST_F(OwnPorts, EveryFibreChannelPortHasCapabilitiesAndSettings) {
 
 TEST_F(OwnPorts, SettingsOfAPortThatTakesTheSpeedOfTheOtherEnd) {
   const Instance settings = get(id_path("VEXOR_FCPortSettings", kFc1));
-  EXPECT_EQ(value(settings, "AutoSenseSpeed"), "TRUE");
+  EXPECT_EQ(value(settings, "AutoSenseSpeed"), "true");
   EXPECT_EQ(value(settings, "RequestedSpeed"), "0");
   EXPECT_EQ(value(settings, "RequestedType"), "17001");
 }
@@ -146,12 +146,15 @@ TEST_F(OwnPorts, CapabilitiesAndSettingsOfOnePortCostOneExchange) {
 // ---- failures ----
 
 TEST_F(OwnPorts, WithoutThePortManagerPortsCannotBeListed) {
-  fail(switch_sim::kPortConfiguration, Fault::Kind::error, kTimedOut);
+  Fault dead;
+  dead.service = switch_sim::Service::port_manager;
+  dead.kind = Fault::Kind::error;
+  dead.value = kTimedOut;
+  control::set_faults({dead});
   for (const char* cls :
        {"VEXOR_FCPort", "VEXOR_EthernetPort", "VEXOR_FCPortSettings", "VEXOR_FCPortCapabilities",
         "VEXOR_FCPortStatistics", "VEXOR_FCPortStatisticalData", "VEXOR_ProtocolEndPoint"})
-    expect_error(CMPI_RC_ERR_FAILED, "the port manager does not give the switch's interfaces",
-                 [&] { names(cls); });
+    expect_error(CMPI_RC_ERR_FAILED, "the port manager does not answer", [&] { names(cls); });
 }
 
 TEST_F(OwnPorts, AfterATimeOutOnTheWayThePortsReadUntilThenAreListed) {
@@ -170,7 +173,18 @@ TEST_F(OwnPorts, AnInterfaceThatVanishesWhileItIsWalkedOverIsPassedOver) {
 }
 
 TEST_F(OwnPorts, APortThatCannotBeReadIsNotFound) {
-  fail(switch_sim::kPortConfiguration, Fault::Kind::short_reply, 203);
+  for (const auto kind : {Fault::Kind::status, Fault::Kind::without_reply, Fault::Kind::error}) {
+    fail(switch_sim::kPortConfiguration, kind, kTimedOut);
+    expect_not_found(port_path(kFc1));
+    expect_not_found(id_path("VEXOR_FCPortSettings", kFc1));
+  }
+}
+
+TEST_F(OwnPorts, ARecordMayEndBehindTheLastFieldThatIsRead) {
+  fail(switch_sim::kPortConfiguration, Fault::Kind::short_reply, 202);
+  EXPECT_EQ(value(get(port_path(kFc1)), "PeerPortWWN"), "2100001122334401");
+  EXPECT_EQ(names("VEXOR_FCPortSettings").size(), 17u);
+  fail(switch_sim::kPortConfiguration, Fault::Kind::short_reply, 201);
   expect_not_found(port_path(kFc1));
 }
 

@@ -110,22 +110,22 @@ TEST_F(PortChanges, ARefusedAliasIsAnErrorAndChangesNothing) {
 
 TEST_F(PortChanges, ASpeedIsSet) {
   modify(settings(kFc1), {speed(1062500000)});
-  EXPECT_EQ(set_to(kFc1), "FALSE 1062500000 17001");
+  EXPECT_EQ(set_to(kFc1), "false 1062500000 17001");
   modify(settings(kFc1), {speed(2125000000)});
-  EXPECT_EQ(set_to(kFc1), "FALSE 2125000000 17001");
+  EXPECT_EQ(set_to(kFc1), "false 2125000000 17001");
 }
 
 TEST_F(PortChanges, Speed0IsThatOfTheOtherEnd) {
   modify(settings(kFc1), {speed(1062500000)});
   modify(settings(kFc1), {speed(0)});
-  EXPECT_EQ(set_to(kFc1), "TRUE 0 17001");
+  EXPECT_EQ(set_to(kFc1), "true 0 17001");
 }
 
 TEST_F(PortChanges, AutoSenseTakesTheSpeedAway) {
   modify(settings(kFc1), {auto_sense(false), speed(1062500000)});
-  EXPECT_EQ(set_to(kFc1), "FALSE 1062500000 17001");
+  EXPECT_EQ(set_to(kFc1), "false 1062500000 17001");
   modify(settings(kFc1), {auto_sense(true)});
-  EXPECT_EQ(set_to(kFc1), "TRUE 0 17001");
+  EXPECT_EQ(set_to(kFc1), "true 0 17001");
 }
 
 TEST_F(PortChanges, AutoSenseAndASpeedContradictEachOther) {
@@ -159,7 +159,7 @@ TEST_F(PortChanges, SpeedsThatPortsDoNotHaveAreRefusedBeforeAnythingIsSent) {
 TEST_F(PortChanges, EveryTypeOfTheCapabilitiesIsSet) {
   for (const uint64_t each : {4, 5, 6, 17002, 17016, 17064, 17001}) {
     modify(settings(kFc9), {type(each)});
-    EXPECT_EQ(set_to(kFc9), "TRUE 0 " + std::to_string(each));
+    EXPECT_EQ(set_to(kFc9), "true 0 " + std::to_string(each));
   }
 }
 
@@ -217,14 +217,12 @@ TEST_F(PortChanges, ASpeedThatCannotBeTakenBackIsTold) {
     faults[i].nth = i + 2;
     faults[i].value = kRefused;
   }
-  // Each counts the requests that the one before it let through.
-  faults[1].nth = 2;
   control::set_faults(faults);
   expect_error(CMPI_RC_ERR_FAILED, "and keeps the new speed", [&] {
     modify(settings(kFc9), {speed(1062500000), type(5)});
   });
   control::set_faults({});
-  EXPECT_EQ(set_to(kFc9), "FALSE 1062500000 17001");
+  EXPECT_EQ(set_to(kFc9), "false 1062500000 17001");
 }
 
 TEST_F(PortChanges, AChangeThatTimesOutIsAnError) {

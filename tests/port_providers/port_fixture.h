@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <memory>
 #include <optional>
 #include <string>
@@ -95,9 +96,12 @@ class PortTest : public testing::Test {
     manager_ = std::make_unique<ObjectManager>(repository_, settings);
   }
 
-  // The traces of the library go to standard output.
+  // The traces of the library go to standard output; so does what failed.
   void SetUp() override { testing::internal::CaptureStdout(); }
-  void TearDown() override { testing::internal::GetCapturedStdout(); }
+  void TearDown() override {
+    const std::string printed = testing::internal::GetCapturedStdout();
+    if (HasFailure()) std::fputs(printed.c_str(), stderr);
+  }
 
   static void generate(const std::string& numbers) {
     EXPECT_EQ(control::install_generated(numbers), std::nullopt);

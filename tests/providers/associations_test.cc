@@ -38,10 +38,12 @@ TEST_F(ProviderAssociations, TheFabricLeadsToItsVsans) {
 
 TEST_F(ProviderAssociations, AVsanLeadsToItsFabric) {
   auto* vsan = vsan_path("2002000DEC0A1B2D");
-  EXPECT_EQ(associator_names(vsan, {}).returned.paths, (Texts{kFabric}));
-  EXPECT_EQ(associators(vsan, {}).returned.instances, (Texts{kFabricInstance}));
-  EXPECT_EQ(reference_names(vsan, {}).returned.paths, (Texts{contained(kVsan2)}));
-  EXPECT_EQ(references(vsan, {}).returned.instances, (Texts{contained_instance(kVsan2)}));
+  const Filter up{.association = "VEXOR_ContainedDomain"};
+  const Filter containment{.result_class = "VEXOR_ContainedDomain"};
+  EXPECT_EQ(associator_names(vsan, up).returned.paths, (Texts{kFabric}));
+  EXPECT_EQ(associators(vsan, up).returned.instances, (Texts{kFabricInstance}));
+  EXPECT_EQ(reference_names(vsan, containment).returned.paths, (Texts{contained(kVsan2)}));
+  EXPECT_EQ(references(vsan, containment).returned.instances, (Texts{contained_instance(kVsan2)}));
 }
 
 TEST_F(ProviderAssociations, TheFabricIsComparedOnceForAllItsVsans) {
@@ -108,11 +110,15 @@ TEST_F(ProviderAssociations, AnObjectOfAnotherClassCostsNoExchange) {
 
 TEST_F(ProviderAssociations, PropertyListsActOnTheClassThatIsReturned) {
   const char* list[] = {"status", nullptr};
-  EXPECT_EQ(associators(vsan_path("2001000DEC0A1B2D"), {}, list).returned.instances,
-            (Texts{"VEXOR_AdminDomain {Name=\"2001000DEC0A1B2D\", Status=\"Up\", "
-                   "CreationClassName=\"VEXOR_AdminDomain\"}"}));
-  EXPECT_EQ(references(vsan_path("2001000DEC0A1B2D"), {}, list).returned.instances,
-            (Texts{contained_instance(kVsan1)}));
+  EXPECT_EQ(
+      associators(vsan_path("2001000DEC0A1B2D"), {.association = "VEXOR_ContainedDomain"}, list)
+          .returned.instances,
+      (Texts{"VEXOR_AdminDomain {Name=\"2001000DEC0A1B2D\", Status=\"Up\", "
+             "CreationClassName=\"VEXOR_AdminDomain\"}"}));
+  EXPECT_EQ(
+      references(vsan_path("2001000DEC0A1B2D"), {.result_class = "VEXOR_ContainedDomain"}, list)
+          .returned.instances,
+      (Texts{contained_instance(kVsan1)}));
 }
 
 }  // namespace

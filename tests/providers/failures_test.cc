@@ -47,12 +47,13 @@ class ProviderFailures : public ProviderFixture {
          }},
         {"associators of a VSAN",
          [=](auto* to) {
-           return am->ft->associators(am, nullptr, to, vsan, nullptr, nullptr, nullptr, nullptr,
-                                      nullptr);
+           return am->ft->associators(am, nullptr, to, vsan, "VEXOR_ContainedDomain", nullptr,
+                                      nullptr, nullptr, nullptr);
          }},
         {"references",
          [=](auto* to) {
-           return am->ft->references(am, nullptr, to, vsan, nullptr, nullptr, nullptr);
+           return am->ft->references(am, nullptr, to, vsan, "VEXOR_ContainedDomain", nullptr,
+                                     nullptr);
          }},
         {"reference names",
          [=](auto* to) {

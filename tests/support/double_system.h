@@ -23,6 +23,9 @@ class PromQuery : public Line<PromQuery> {
  public:
   PromQuery();
   PromQuery& gives(const Bytes& content) { return returns(0).hands_out(content); }
+  PromQuery& fails_with_content(int64_t result, const Bytes& content) {
+    return returns(result).hands_out(content);
+  }
 };
 PromQuery read_chassis_prom();
 
