@@ -105,9 +105,9 @@ void add_own_identities(const OwnPort& port, const std::vector<LinkEnd>& ends,
 }
 
 void add_identities_of(int32_t q, const OwnPort& port, std::vector<LinkedPair>& found) {
-  const wwn_ port_wwn = port.info.wwn;
-  add_own_identities(port, ends_in_vsans(q, own_switch_wwn(q), port.info.if_index),
-                     registered_behind(q, port.info.vsan, port_wwn), found);
+  const wwn_ port_wwn = port.info->wwn;
+  add_own_identities(port, ends_in_vsans(q, own_switch_wwn(q), port.info->if_index),
+                     registered_behind(q, port.info->vsan, port_wwn), found);
 }
 
 void add_identities_of(int32_t q, const LinkEnd& end, std::vector<LinkedPair>& found) {
@@ -136,7 +136,7 @@ void add_identities_of(int32_t q, const Attachment& side, std::vector<LinkedPair
 
 // Whether an endpoint is in a VSAN; which one.
 uint32_t vsan_of(const OwnPort& port) {
-  return port.info.vsan;
+  return port.info->vsan;
 }
 uint32_t vsan_of(const LinkEnd& end) {
   return end.link.word_0;
@@ -187,7 +187,7 @@ std::vector<LinkedPair> implemented(const std::vector<Port>& endpoints) {
 
 // Ethernet ports and channels and the management port have a MAC address in place of a WWN.
 bool has_wwn(const OwnPort& port) {
-  const uint32_t if_index = port.info.if_index;
+  const uint32_t if_index = port.info->if_index;
   uint8_t type = 0;
   if (pm_is_ether_channel(if_index) != 0 || if_index_get_type(if_index, &type) != 0) return false;
   return type == PM_IF_FC || type == PM_IF_PORT_CHANNEL || type == PM_IF_FCIP ||
@@ -401,9 +401,9 @@ std::vector<LinkedPair> remote_connections_among(int32_t q, const std::vector<Ow
   std::unordered_map<uint32_t, const OwnPort*> by_index;
   std::unordered_map<uint64_t, const OwnPort*> by_wwn;
   for (const OwnPort& port : ports) {
-    const uint32_t if_index = port.info.if_index;  // of a packed record
+    const uint32_t if_index = port.info->if_index;  // of a packed record
     by_index.emplace(if_index, &port);
-    by_wwn.emplace(number_of(port.info.wwn), &port);
+    by_wwn.emplace(number_of(port.info->wwn), &port);
   }
   std::vector<LinkedPair> found;
   const std::vector<uint32_t> vsans = running_vsans(q);
@@ -480,8 +480,8 @@ std::vector<LinkedPair> port_identities(int32_t q) {
 
   std::vector<LinkedPair> found;
   for (const OwnPort& port : all_own_ports(q)) {
-    const uint32_t if_index = port.info.if_index;  // of a packed record
-    const wwn_ port_wwn = port.info.wwn;
+    const uint32_t if_index = port.info->if_index;  // of a packed record
+    const wwn_ port_wwn = port.info->wwn;
     add_own_identities(port, own_ends[if_index], behind[number_of(port_wwn)], found);
   }
   add_identities(ends, found);

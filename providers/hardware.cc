@@ -80,12 +80,12 @@ std::vector<PhysicalPort> physical_ports_named(int32_t q, const ObjectName& name
 }
 
 CMPIObjectPath* physical_port_reference(const Target& target, const PhysicalPort& port) {
-  return physical_element_fill_reference(target.class_name, target.name_space, &port.port.info,
+  return physical_element_fill_reference(target.class_name, target.name_space, port.port.info.get(),
                                          target.broker);
 }
 
 CMPIInstance* physical_port_instance(const Target& target, const PhysicalPort& port) {
-  return physical_element_build_instance(target.class_name, target.name_space, &port.port.info,
+  return physical_element_build_instance(target.class_name, target.name_space, port.port.info.get(),
                                          target.broker);
 }
 

@@ -41,7 +41,7 @@ std::unordered_map<uint32_t, Module> modules_by_number(int32_t q) {
 void add_module_port(const std::unordered_map<uint32_t, Module>& modules, const OwnPort& port,
                      std::vector<LinkedPair>& found) {
   uint32_t number = 0;
-  if (!module_number_of(port.info.if_index, number)) return;
+  if (!module_number_of(port.info->if_index, number)) return;
   const auto module = modules.find(number);
   if (module != modules.end()) found.push_back({module->second, port});
 }
@@ -175,7 +175,7 @@ std::vector<LinkedPair> module_ports_of(int32_t q, int end, const ObjectName& ob
   }
   const std::vector<OwnPort> ports = own_ports_like(q, object);
   uint32_t number = 0;
-  if (ports.empty() || !module_number_of(ports[0].info.if_index, number)) return found;
+  if (ports.empty() || !module_number_of(ports[0].info->if_index, number)) return found;
   add_module_port(modules_by_number(q), ports[0], found);
   return found;
 }

@@ -24,7 +24,7 @@ const char* class_of(const SwitchPart&) {
   return "VEXOR_LogicalComputerSystem";
 }
 const char* class_of(const OwnPort& port) {
-  return kind_of(port.info.if_index) == PortKind::ethernet ? "VEXOR_EthernetPort" : "VEXOR_FCPort";
+  return kind_of(port.info->if_index) == PortKind::ethernet ? "VEXOR_EthernetPort" : "VEXOR_FCPort";
 }
 const char* class_of(const LinkEnd&) {
   return "VEXOR_FCPort";
