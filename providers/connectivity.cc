@@ -180,6 +180,7 @@ std::vector<LinkedPair> hosted(int32_t q, const std::vector<Port>& endpoints) {
 
 std::vector<LinkedPair> implemented(const std::vector<Port>& endpoints) {
   std::vector<LinkedPair> found;
+  found.reserve(endpoints.size());
   for (const Port& port : endpoints)
     found.push_back({linked(port), Endpoint{port}});
   return found;

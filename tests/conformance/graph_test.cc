@@ -255,10 +255,16 @@ TEST_P(OnFabrics, AWalkFromTheSwitchReachesEveryObject) {
   EXPECT_TRUE(unreached.empty()) << first_of(unreached);
 }
 
+std::string fabric_name(const testing::TestParamInfo<const char*>& fabric) {
+  constexpr const char* kNames[] = {"Default", "Mixed", "Small"};
+  return kNames[fabric.index];
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Fabrics, OnFabrics,
-    testing::Values("", "switches=3,ports=12,vsans=3,devices=9,zones=2,members=4,aliases=1,seed=5"),
-    [](const auto& fabric) { return fabric.param[0] == '\0' ? "Default" : "Generated"; });
+    testing::Values("", "switches=3,ports=12,vsans=3,devices=9,zones=2,members=4,aliases=1,seed=5",
+                    "switches=2,ports=48,vsans=2,devices=20,zones=50,members=125,seed=9"),
+    fabric_name);
 
 }  // namespace
 }  // namespace conformance
