@@ -4,6 +4,9 @@
 #ifndef HOST_BEHAVIOR_H_
 #define HOST_BEHAVIOR_H_
 
+#include <optional>
+#include <string_view>
+
 namespace cim::host {
 
 enum class UnknownProperty {
@@ -25,6 +28,11 @@ struct Behavior {
   bool null_needs_type = true;              ///< CMPI_null does not clear a property
   bool instances_of_unknown_class = false;  ///< newInstance makes them, with no properties
   bool keys_copied_to_instance = false;     ///< newInstance sets the path's keys as properties
+  bool class_defaults = false;              ///< newInstance sets what the class gives as defaults
+  bool defaults_in_requests = false;        ///< where a client's new values lack a property, the
+                                            ///< provider is given the default of its class
+  bool missing_keys_counted = false;        ///< getKeyCount counts keys of the class that a path
+                                            ///< lacks; getKeyAt has a name for them and no value
   bool filter_on_output = false;         ///< a property filter acts when the instance is returned
   bool sorted_keys = false;              ///< getKeyAt goes by name, not by order of addKey
   bool integer_keys_widened = false;     ///< integer keys read back as sint64
@@ -34,10 +42,15 @@ struct Behavior {
   bool memory_table = true;    ///< CMPIBroker.mft is there
 
   /// Does as it is told: stores wrong types and unknown properties, leaves optional slots out.
+  /// Instances start with the keys of their path and the defaults of their class.
   static Behavior lenient();
-  /// Checks types but says nothing about unknown properties; keys are sorted and widened; there is
-  /// no memory table.
+  /// Checks types but says nothing about unknown properties; keys are sorted, widened and counted
+  /// when they are missing; instances start with the defaults of their class; there is no memory
+  /// table.
   static Behavior quiet();
+
+  /// "strict" is the default; "lenient" and "quiet" are those above. Others have no value.
+  static std::optional<Behavior> named(std::string_view name);
 };
 
 }  // namespace cim::host

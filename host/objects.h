@@ -286,6 +286,10 @@ const NamedData& item_at(const std::vector<NamedData>& items, CMPICount index, C
 Instance finished_instance(Broker& broker, const InstanceContent& content);
 /// An instance of a class: every property of the class is there, null unless given.
 InstanceContent instance_content(Broker& broker, const Instance& instance);
+/// The same for a client's new values, as a provider is to see them.
+InstanceContent request_content(Broker& broker, const Instance& instance);
+/// What the class gives as defaults, where a property is null.
+void set_class_defaults(const Broker& broker, InstanceContent& content);
 
 }  // namespace cim::host
 

@@ -27,6 +27,7 @@ CMPIInstance* new_instance(const CMPIBroker* face, const CMPIObjectPath* path, C
     }
     InstanceContent content = instance_content(broker, instance);
     content.path_given = false;
+    if (behavior.class_defaults) set_class_defaults(broker, content);
     if (behavior.keys_copied_to_instance) {
       for (const NamedData& key : given.keys) {
         if (NamedData* property = find_named(content.instance.properties, key.name))

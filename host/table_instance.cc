@@ -201,6 +201,21 @@ InstanceContent instance_content(Broker& broker, const Instance& instance) {
   return content;
 }
 
+void set_class_defaults(const Broker& broker, InstanceContent& content) {
+  if (content.cls == nullptr) return;
+  for (const schema::Property* property : broker.repository().properties(*content.cls)) {
+    NamedData* known = find_named(content.instance.properties, property->name);
+    if (known == nullptr || !known->data.null || property->default_value.is_null()) continue;
+    known->data = to_data(property->default_value);
+  }
+}
+
+InstanceContent request_content(Broker& broker, const Instance& instance) {
+  InstanceContent content = instance_content(broker, instance);
+  if (broker.behavior().defaults_in_requests) set_class_defaults(broker, content);
+  return content;
+}
+
 CMPIInstanceFT instance_table(const Behavior& behavior) {
   return {
       .ftVersion = kTableVersion,

@@ -74,20 +74,41 @@ CMPIData get_key(const CMPIObjectPath* path, const char* name, CMPIStatus* rc) {
   });
 }
 
+/// The keys that the path has; where the behavior counts them, the class's other ones, too, as
+/// null.
+std::vector<NamedData> counted_keys(const Shell<CMPIObjectPath>& shell) {
+  std::vector<NamedData> keys = shell.content->keys;
+  const Broker& broker = shell.broker;
+  const schema::Class* cls = broker.repository().find(shell.content->class_name);
+  if (!broker.behavior().missing_keys_counted || cls == nullptr) return keys;
+  for (const schema::Property* key : broker.repository().keys(*cls)) {
+    if (find_named(keys, key->name) == nullptr)
+      keys.push_back({key->name, Data::null_of(cmpi_type(*key))});
+  }
+  if (broker.behavior().sorted_keys) {
+    std::stable_sort(keys.begin(), keys.end(), [](const NamedData& a, const NamedData& b) {
+      return schema::NameLess()(a.name, b.name);
+    });
+  }
+  return keys;
+}
+
 CMPIData get_key_at(const CMPIObjectPath* path, CMPICount index, CMPIString** name,
                     CMPIStatus* rc) {
   return guarded_data(rc, kMissing, [&] {
     if (name != nullptr) *name = nullptr;
     const Shell<CMPIObjectPath>& shell = shell_of(path);
-    const NamedData& key = item_at(shell.content->keys, index, CMPI_RC_ERR_NO_SUCH_PROPERTY);
+    const std::vector<NamedData> keys = counted_keys(shell);
+    const NamedData& key = item_at(keys, index, CMPI_RC_ERR_NO_SUCH_PROPERTY);
     give_name(shell.broker, name, key.name);
+    if (key.data.null) throw CimError(CMPI_RC_ERR_NO_SUCH_PROPERTY, "no key " + key.name);
     return key_data(shell, key);
   });
 }
 
 CMPICount get_key_count(const CMPIObjectPath* path, CMPIStatus* rc) {
   return guarded(rc, CMPICount{0},
-                 [&] { return static_cast<CMPICount>(content_of(path).keys.size()); });
+                 [&] { return static_cast<CMPICount>(counted_keys(shell_of(path)).size()); });
 }
 
 CMPIStatus set_namespace_from(const CMPIObjectPath* path, const CMPIObjectPath* source) {

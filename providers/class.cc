@@ -32,8 +32,13 @@ std::optional<ObjectName> object_in(const CMPIData& data, const CMPIStatus& stat
 
 }  // namespace
 
+bool NewValues::is_asked_for(const char* property) const {
+  if (properties_ != nullptr) return is_in(property, properties_);
+  return blank_ == nullptr || !same_in(blank_, property);
+}
+
 bool NewValues::text(const char* property, std::string& value) const {
-  if (properties_ != nullptr && !is_in(property, properties_)) return false;
+  if (!is_asked_for(property)) return false;
   CMPIStatus status = {CMPI_RC_OK, nullptr};
   const CMPIData data = instance_->ft->getProperty(instance_, property, &status);
   return status.rc == CMPI_RC_OK && to_text(data, value);
@@ -48,7 +53,7 @@ std::vector<std::string> NewValues::names() const {
     const CMPIData data = instance_->ft->getPropertyAt(instance_, index, &name, &status);
     if (status.rc != CMPI_RC_OK || (data.state & ~CMPI_keyValue) != 0) continue;
     const char* text = chars_of(name);
-    if (properties_ == nullptr || is_in(text, properties_)) given.emplace_back(text);
+    if (is_asked_for(text)) given.emplace_back(text);
   }
   return given;
 }

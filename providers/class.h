@@ -36,11 +36,14 @@ struct Target {
 };
 
 // The values that a client sent for a new or a changed object. Those outside the request's property
-// list are not given.
+// list are not given. `blank` may be null, or an instance as the object manager makes it: without a
+// property list, a value that stands there, too, is not given either, since an object manager may
+// have put the class's defaults where the client sent nothing.
 class NewValues {
  public:
-  NewValues(const CMPIInstance* instance, const char** properties)
-      : instance_(instance), properties_(properties) {}
+  NewValues(const CMPIInstance* instance, const char** properties,
+            const CMPIInstance* blank = nullptr)
+      : instance_(instance), properties_(properties), blank_(blank) {}
   // Result: whether the client gave the property, and it is a text, a number or a truth value;
   // `value` receives its text.
   bool text(const char* property, std::string& value) const;
@@ -54,8 +57,11 @@ class NewValues {
   std::optional<ObjectName> reference(const char* property) const;
 
  private:
+  bool is_asked_for(const char* property) const;
+
   const CMPIInstance* instance_;
   const char** properties_;
+  const CMPIInstance* blank_;
 };
 
 // The arguments of a method call. Those that are no text, number, truth value or reference through

@@ -10,11 +10,14 @@ const CMPIString* name_space_of(const CMPIObjectPath* path) {
   return path->ft->getNameSpace(path, nullptr);
 }
 
-ObjectName::Key read_key(const CMPIObjectPath* path, CMPICount index) {
+// Result: false for a key that the path lacks. Some object managers count every key of the class;
+// those that the client left out are then not to be had.
+bool read_key(const CMPIObjectPath* path, CMPICount index, ObjectName::Key& key) {
   CMPIString* name = nullptr;
   CMPIStatus status = {CMPI_RC_OK, nullptr};
   const CMPIData data = path->ft->getKeyAt(path, index, &name, &status);
-  ObjectName::Key key{chars_of(name), {}, {}};
+  if (status.rc == CMPI_RC_ERR_NO_SUCH_PROPERTY) return false;
+  key.name = chars_of(name);
   if (status.rc != CMPI_RC_OK || key.name.empty())
     throw Failure(CMPI_RC_ERR_INVALID_PARAMETER, "key number %u of the object path is unreadable",
                   index + 1);
@@ -23,7 +26,7 @@ ObjectName::Key read_key(const CMPIObjectPath* path, CMPICount index) {
     key.object.emplace_back(data.value.ref);
   else if (!to_text(data, key.text))
     throw Failure(CMPI_RC_ERR_INVALID_PARAMETER, "key \"%s\" has no value", key.name.c_str());
-  return key;
+  return true;
 }
 
 bool same_value(const ObjectName::Key& a, const ObjectName::Key& b) {
@@ -87,8 +90,10 @@ ObjectName::ObjectName(const CMPIObjectPath* path)
       class_name_(chars_of(path->ft->getClassName(path, nullptr))) {
   const CMPICount count = path->ft->getKeyCount(path, nullptr);
   keys_.reserve(count);
-  for (CMPICount index = 0; index < count; ++index)
-    keys_.push_back(read_key(path, index));
+  for (CMPICount index = 0; index < count; ++index) {
+    Key key;
+    if (read_key(path, index, key)) keys_.push_back(std::move(key));
+  }
 }
 
 const ObjectName::Key* ObjectName::key(const char* name) const {

@@ -148,6 +148,14 @@ CMPIObjectPath* Request::end_reference(const Link& link, int end) const {
   });
 }
 
+const CMPIInstance* Request::blank_instance(const Class& cls) const {
+  const CMPIObjectPath* path =
+      broker_->eft->newObjectPath(broker_, name_space_.c_str(), cls.name(), nullptr);
+  if (path == nullptr || path->hdl == nullptr) return nullptr;
+  const CMPIInstance* instance = broker_->eft->newInstance(broker_, path, nullptr);
+  return instance != nullptr && instance->hdl != nullptr ? instance : nullptr;
+}
+
 // ---- returning ----
 
 void Request::give(const CMPIObjectPath* path) const {
@@ -229,7 +237,7 @@ void Request::modify(const CMPIInstance* new_values, const char** properties) {
   const Class& cls = own_class();
   if (!cls.can_modify()) not_supported(cls, "modified");
   const Found found = find(cls);
-  const NewValues values(new_values, properties);
+  const NewValues values(new_values, properties, blank_instance(cls));
   refuse_other_changes(cls, found, values);
   locked([&](int32_t q) { found.objects->modify(found.index, q, values); });
   done();

@@ -88,6 +88,8 @@ class Request {
   CMPIInstance* instance(const Class& cls, const Objects& objects, size_t index,
                          const char** properties) const;
   CMPIObjectPath* end_reference(const Link& link, int end) const;
+  // As the object manager makes one; null when it does not.
+  const CMPIInstance* blank_instance(const Class& cls) const;
 
   void give(const CMPIObjectPath* path) const;
   void give(const CMPIInstance* instance) const;

@@ -420,6 +420,21 @@ TEST_F(Lenient, Makes_instances_of_unknown_classes_and_copies_keys) {
   EXPECT_EQ(get(known, "Id").value.uint32, 5U);
 }
 
+TEST_F(Lenient, Fills_new_values_with_the_defaults_of_their_class) {
+  Instance sent;
+  sent.path.class_name = "Test_Tape";
+  sent.properties.push_back({"Name", Data::string("reel")});
+  const InstanceContent content = request_content(broker_, sent);
+  EXPECT_EQ(content.instance.find("Wear")->element, Element(std::uint64_t{3}));
+  EXPECT_EQ(*content.instance.find("Name"), Data::string("reel"));
+}
+
+TEST_F(InstanceObjects, Hold_the_new_values_that_were_sent_only) {
+  Instance sent;
+  sent.path.class_name = "Test_Tape";
+  EXPECT_TRUE(request_content(broker_, sent).instance.find("Wear")->null);
+}
+
 TEST_F(Lenient, Leaves_optional_slots_out) {
   EXPECT_EQ(mb()->eft->newCMPIError, nullptr);
   EXPECT_EQ(mb()->eft->openMessageFile, nullptr);
@@ -462,6 +477,39 @@ TEST_F(Quiet, Sorts_and_widens_keys) {
   EXPECT_EQ(first.type, CMPI_sint64);
   EXPECT_EQ(first.value.sint64, 5);
   EXPECT_EQ(path_text(path), "root/test:Test_Disk.id=5,Zone=\"z\"");
+}
+
+TEST_F(Quiet, Counts_keys_that_a_path_lacks) {
+  CMPIObjectPath* path = new_path("Test_Text");
+  path->ft->addKey(path, "Name", text("n"), CMPI_chars);
+  EXPECT_EQ(path->ft->getKeyCount(path, nullptr), 3U);
+  CMPIString* name = nullptr;
+  CMPIStatus status{};
+  EXPECT_EQ(path->ft->getKeyAt(path, 0, &name, &status).state, CMPI_notFound | CMPI_nullValue);
+  EXPECT_EQ(status.rc, CMPI_RC_ERR_NO_SUCH_PROPERTY);
+  EXPECT_EQ(chars(name), "Flag");
+  path->ft->getKeyAt(path, 1, &name, &status);
+  EXPECT_EQ(status.rc, CMPI_RC_OK);
+  EXPECT_EQ(chars(name), "Name");
+  CMPIObjectPath* unknown = new_path("Test_Nothing");
+  EXPECT_EQ(unknown->ft->getKeyCount(unknown, nullptr), 0U);
+}
+
+TEST_F(Quiet, Starts_instances_with_the_defaults_of_their_class) {
+  CMPIInstance* tape = new_instance("Test_Tape");
+  EXPECT_EQ(get(tape, "Wear").value.uint16, 3U);
+  EXPECT_EQ(get(tape, "Name").state, CMPI_nullValue);
+}
+
+TEST_F(InstanceObjects, Start_without_the_defaults_of_their_class) {
+  EXPECT_EQ(get(new_instance("Test_Tape"), "Wear").state, CMPI_nullValue);
+}
+
+TEST(Behaviors, Have_names) {
+  EXPECT_EQ(Behavior::named("strict")->wrong_type, WrongType::refuse);
+  EXPECT_TRUE(Behavior::named("lenient")->keys_copied_to_instance);
+  EXPECT_TRUE(Behavior::named("quiet")->sorted_keys);
+  EXPECT_FALSE(Behavior::named("Quiet").has_value());
 }
 
 TEST_F(Quiet, Filters_when_the_instance_is_returned) {

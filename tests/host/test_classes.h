@@ -57,6 +57,7 @@ class Test_FastDisk : Test_Disk {
 };
 
 class Test_Tape : CIM_Thing {
+  uint16 Wear = 3;
 };
 
 [Provider("Other")]

@@ -128,6 +128,22 @@ TEST_F(PortForms, WithoutTheVsanManagerPortsCannotBeListed) {
                  [&] { names(cls); });
 }
 
+TEST_F(PortForms, AVsanWithoutADomainManagerOnTheOwnSwitchHasNoLinksAndNoSwitches) {
+  switch_sim::Fabric fabric = control::fabric();
+  for (auto& domain : fabric.vsans.at(1).domains)
+    if (domain.switch_wwn == fabric.local_switch) {
+      domain.enabled = false;
+      domain.domain_id = 0;
+    }
+  ASSERT_EQ(control::install(fabric), std::nullopt);
+  for (const std::string& each : names("VEXOR_FCPort")) {
+    EXPECT_EQ(each.find("SystemName=\"2002"), std::string::npos) << each;
+    EXPECT_EQ(text(get(each).path), each);
+  }
+  EXPECT_EQ(names("VEXOR_LogicalComputerSystem").size(), 3u);
+  EXPECT_EQ(names("VEXOR_Component").size(), 3u);
+}
+
 // ---- endpoints ----
 
 TEST_F(PortForms, AnOwnPortsEndpointGoesByItsWwn) {

@@ -149,6 +149,11 @@ class ProviderClass : public testing::Test {
   ProviderClass() {
     mts_q = test_support::kQueue;
     vexor::providers::queue::join();
+    broker_.add_classes(
+        "class VEXOR_Lamp { [Key] uint16 Number; string Colour; };\n"
+        "class VEXOR_PlainLamp : VEXOR_Lamp { };\n"
+        "[Association] class VEXOR_Beside { [Key] VEXOR_Lamp REF Left; [Key] VEXOR_Lamp REF Right; "
+        "};");
     lamps = {{1, "red"}, {2, "green"}};
     instances_ = vexor::providers::make_instance_mi(broker_.face(), nullptr, kTable);
     associations_ = vexor::providers::make_association_mi(broker_.face(), nullptr, kTable);

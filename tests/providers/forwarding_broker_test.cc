@@ -22,7 +22,12 @@ constexpr const char* kKeys[] = {"Name", nullptr};
 
 class Forwarding : public testing::Test {
  protected:
-  Forwarding() { broker_.watch_lock_on_return(false); }
+  Forwarding() {
+    broker_.watch_lock_on_return(false);
+    broker_.add_classes(
+        "class VEXOR_Thing { [Key] string Name; sint32 Number; uint16 States[]; string Other;\n"
+        "  uint16 PortNumber; uint16 EnabledState; uint16 RequestedState; uint16 Caption; };");
+  }
 
   CMPIInstance* make(const ForwardingBroker& broker) {
     const CMPIBroker* face = broker.face();
@@ -95,8 +100,6 @@ TEST_F(Forwarding, ValuesBecomeTheirDeclaredTypes) {
       {"VEXOR_Thing", "PortNumber", CMPI_uint16},
       {"VEXOR_Thing", "EnabledState", CMPI_uint16},
   };
-  broker_.declare("PortNumber", CMPI_uint16);
-  broker_.declare("EnabledState", CMPI_uint16);
   const ForwardingBroker broker(broker_.face(), {.keys = kKeys, .differences = kDifferences});
   auto* made = make(broker);
   EXPECT_EQ(set_sint32(made, "portnumber", 65535).rc, CMPI_RC_OK);

@@ -99,7 +99,7 @@ TEST_F(ProviderChanges, AStateChangeHasNoJob) {
             CMPI_RC_OK);
   CMPIStatus status{};
   out->ft->getArg(out, "Job", &status);
-  EXPECT_EQ(status.rc, CMPI_RC_ERR_NOT_FOUND);
+  EXPECT_NE(status.rc, CMPI_RC_OK);
 }
 
 TEST_F(ProviderChanges, AnotherStateIsAnInvalidParameter) {

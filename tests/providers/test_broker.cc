@@ -5,15 +5,22 @@
 #include <pthread.h>
 #include <strings.h>
 
+#include <algorithm>
+#include <cstdlib>
 #include <deque>
 #include <functional>
 #include <mutex>
 
+#include "host/data.h"
+#include "schema/repository.h"
 #include "tests/support/heap_ledger.h"
 
 namespace provider_tests {
 namespace {
 
+using cim::host::Behavior;
+using cim::host::UnknownProperty;
+using cim::host::WrongType;
 using Pause = test_support::HeapLedger::Pause;
 
 struct Named {
@@ -24,6 +31,7 @@ struct Named {
 struct StringObject {
   CMPIString face;
   std::string text;
+  bool empty = false;  // no characters at all, as some brokers have strings
 };
 
 struct PathObject {
@@ -37,7 +45,10 @@ struct InstanceObject {
   CMPIInstance face;
   TestBroker::Impl* broker;
   std::string name_space, class_name;
-  std::vector<Named> properties;
+  const cim::schema::Class* cls = nullptr;  // null: what is set is not checked
+  std::vector<Named> properties;            // those that were set, in that order
+  std::vector<Named> keys;                  // of the path, where the broker copies them
+  std::vector<Named> defaults;              // of the class, where the broker knows them
   bool filtered = false;
   Texts filter;
 };
@@ -101,8 +112,16 @@ struct TestBroker::Impl {
   std::deque<ArgsObject> args;
   std::deque<ResultObject> results;
 
+  explicit Impl(const Behavior& the_behavior) : behavior(the_behavior) {
+    const auto problems = classes.add_file(std::string(CIM_SOURCE_DIR) + "/mof/vexor.mof");
+    for (const auto& problem : problems)
+      ADD_FAILURE() << problem.message;
+  }
+
+  const Behavior behavior;
+  cim::schema::Repository classes;
   std::map<std::string, std::string> superclasses;
-  std::map<std::string, CMPIType> declared;
+  bool refusals_are_expected = false;
   bool filters = true;
   bool lock_is_watched = true;
   int path_fails = 0, instance_fails = 0, return_fails = 0, property_fails = 0;
@@ -124,13 +143,43 @@ struct TestBroker::Impl {
     object.face = {&object, &path_table};
     return &object.face;
   }
+  InstanceObject& instance(const PathObject& path) {
+    InstanceObject& object = instances.emplace_back();
+    object.broker = this;
+    object.name_space = path.name_space;
+    object.class_name = path.class_name;
+    object.face = {&object, &instance_table};
+    return object;
+  }
+  // Whole numbers are all that the classes have as defaults.
+  void set_defaults(InstanceObject& object) {
+    const auto* cls = classes.find(object.class_name);
+    if (cls == nullptr) return;
+    for (const auto* property : classes.properties(*cls)) {
+      const auto data = cim::host::to_data(property->default_value);
+      const auto* number = std::get_if<std::uint64_t>(&data.element);
+      if (data.null || data.is_array() || number == nullptr) continue;
+      CMPIValue value{};
+      value.uint64 = *number;
+      object.defaults.push_back({property->name, keep(&value, data.type, CMPI_goodValue)});
+    }
+  }
+  CMPIString* no_string() {
+    CMPIString* made = string("");
+    strings.back().empty = true;
+    return made;
+  }
+  // A value of a provider that some object manager would not take.
+  void left_out(const std::string& what) const {
+    if (!refusals_are_expected) ADD_FAILURE() << what;
+  }
   // As brokers keep values: texts become strings.
   CMPIData keep(const CMPIValue* value, CMPIType type, CMPIValueState state) {
     CMPIData data{type, state, {}};
     if (type == CMPI_chars) {
       data.type = CMPI_string;
       data.value.string = string(reinterpret_cast<const char*>(value));
-    } else if (value != nullptr) {
+    } else if (value != nullptr && type != CMPI_null) {
       data.value = *value;
     } else {
       data.state = CMPI_nullValue;
@@ -167,22 +216,26 @@ ResultObject& of(const CMPIResult* face) {
 
 using Guard = std::lock_guard<std::recursive_mutex>;
 
-CMPIData no_data(CMPIStatus* rc, CMPIrc code) {
+// Brokers whose keys have no state have fewer states of missing items, too.
+CMPIData no_data(const Impl& broker, CMPIStatus* rc, CMPIrc code) {
   put(rc, code);
-  return {CMPI_null, CMPI_notFound | CMPI_nullValue, {}};
+  const CMPIValueState also = broker.behavior.key_state ? CMPI_nullValue : CMPI_goodValue;
+  return {CMPI_null, static_cast<CMPIValueState>(CMPI_notFound | also), {}};
 }
 
-CMPIData item(std::vector<Named>& list, CMPICount index, CMPIString** name, Impl& broker,
+CMPIData item(const std::vector<Named>& list, CMPICount index, CMPIString** name, Impl& broker,
               CMPIStatus* rc) {
-  if (index >= list.size()) return no_data(rc, CMPI_RC_ERR_NO_SUCH_PROPERTY);
+  if (name != nullptr) *name = nullptr;
+  if (index >= list.size()) return no_data(broker, rc, CMPI_RC_ERR_NO_SUCH_PROPERTY);
   put(rc, CMPI_RC_OK);
   if (name != nullptr) *name = broker.string(list[index].name);
   return list[index].data;
 }
 
-CMPIData item(std::vector<Named>& list, const char* name, CMPIStatus* rc) {
+CMPIData item(const Impl& broker, std::vector<Named>& list, const char* name, CMPIrc missing,
+              CMPIStatus* rc) {
   const Named* found = find(list, name);
-  if (found == nullptr) return no_data(rc, CMPI_RC_ERR_NOT_FOUND);
+  if (found == nullptr) return no_data(broker, rc, missing);
   put(rc, CMPI_RC_OK);
   return found->data;
 }
@@ -211,6 +264,8 @@ std::string print(const CMPIData& data) {
   switch (data.type) {
     case CMPI_string:
       return in_quotes(of(data.value.string).text);
+    case CMPI_chars:
+      return in_quotes(data.value.chars);
     case CMPI_ref:
       return "[" + print(data.value.ref) + "]";
     case CMPI_boolean:
@@ -241,11 +296,18 @@ std::string print(const CMPIObjectPath* path) {
   return text;
 }
 
+bool is_listed(const Texts& list, const char* name) {
+  return std::any_of(list.begin(), list.end(),
+                     [name](const std::string& listed) { return same(listed, name); });
+}
+
+// What the provider set, of that what its property filter lets out.
 std::string print(const CMPIInstance* instance) {
   const InstanceObject& object = of(instance);
   std::string text = object.class_name + " {";
   const char* separator = "";
   for (const Named& property : object.properties) {
+    if (object.filtered && !is_listed(object.filter, property.name.c_str())) continue;
     text += separator + property.name + "=" + print(property.data);
     separator = ", ";
   }
@@ -256,7 +318,7 @@ std::string print(const CMPIInstance* instance) {
 
 const char* get_chars(const CMPIString* string, CMPIStatus* rc) {
   put(rc, CMPI_RC_OK);
-  return of(string).text.c_str();
+  return of(string).empty ? nullptr : of(string).text.c_str();
 }
 
 // ---- paths ----
@@ -292,8 +354,60 @@ CMPIStatus add_key(const CMPIObjectPath* path, const char* name, const CMPIValue
   return {CMPI_RC_OK, nullptr};
 }
 
+// The value of an integer of any type.
+CMPISint64 integer(const CMPIData& data) {
+  switch (data.type) {
+    case CMPI_uint8:
+      return data.value.uint8;
+    case CMPI_uint16:
+      return data.value.uint16;
+    case CMPI_uint32:
+      return data.value.uint32;
+    case CMPI_sint8:
+      return data.value.sint8;
+    case CMPI_sint16:
+      return data.value.sint16;
+    case CMPI_sint32:
+      return data.value.sint32;
+    default:
+      return data.value.sint64;
+  }
+}
+
+// A key as the broker gives it back.
+CMPIData given_key(const Impl& broker, CMPIData data) {
+  const bool is_integer = (data.type & CMPI_INTEGER) != 0 && (data.type & ~0xff) == 0;
+  if (is_integer && broker.behavior.integer_keys_widened) {
+    data.value.sint64 = integer(data);
+    data.type = CMPI_sint64;
+  }
+  if (!broker.behavior.key_state) data.state &= static_cast<CMPIValueState>(~CMPI_keyValue);
+  return data;
+}
+
 CMPIData get_key(const CMPIObjectPath* path, const char* name, CMPIStatus* rc) {
-  return item(of(path).keys, name, rc);
+  Impl& broker = *of(path).broker;
+  const Named* found = find(of(path).keys, name);
+  if (found == nullptr) return no_data(broker, rc, CMPI_RC_ERR_NOT_FOUND);
+  put(rc, CMPI_RC_OK);
+  return given_key(broker, found->data);
+}
+
+// The path's keys in the broker's order; those of its class that it lacks, where it counts them, as
+// not found.
+std::vector<Named> counted_keys(const PathObject& path) {
+  const Impl& broker = *path.broker;
+  std::vector<Named> keys = path.keys;
+  const auto* cls = broker.classes.find(path.class_name);
+  if (broker.behavior.missing_keys_counted && cls != nullptr)
+    for (const auto* key : broker.classes.keys(*cls))
+      if (find(keys, key->name.c_str()) == nullptr)
+        keys.push_back({key->name, {CMPI_null, CMPI_notFound | CMPI_nullValue, {}}});
+  if (broker.behavior.sorted_keys)
+    std::sort(keys.begin(), keys.end(), [](const Named& a, const Named& b) {
+      return strcasecmp(a.name.c_str(), b.name.c_str()) < 0;
+    });
+  return keys;
 }
 
 CMPIData get_key_at(const CMPIObjectPath* path, CMPICount index, CMPIString** name,
@@ -301,18 +415,49 @@ CMPIData get_key_at(const CMPIObjectPath* path, CMPICount index, CMPIString** na
   const Pause pause;
   Impl& broker = *of(path).broker;
   const Guard guard(broker.mutex);
-  return item(of(path).keys, index, name, broker, rc);
+  const std::vector<Named> keys = counted_keys(of(path));
+  if (index >= keys.size() && !broker.behavior.key_state) {
+    // Deliberately no error: a broker in use says nothing.
+    put(rc, CMPI_RC_OK);
+    if (name != nullptr) *name = broker.no_string();
+    return {};
+  }
+  const CMPIData data = item(keys, index, name, broker, rc);
+  if (index >= keys.size()) return data;
+  if ((data.state & CMPI_notFound) != 0) put(rc, CMPI_RC_ERR_NO_SUCH_PROPERTY);
+  return given_key(broker, data);
 }
 
 CMPICount get_key_count(const CMPIObjectPath* path, CMPIStatus* rc) {
+  const Pause pause;
+  const Guard guard(of(path).broker->mutex);
   put(rc, CMPI_RC_OK);
-  return static_cast<CMPICount>(of(path).keys.size());
+  return static_cast<CMPICount>(counted_keys(of(path)).size());
 }
 
 // ---- instances ----
 
+// Every property that the class has, those that nobody set as null, and those that were added.
+std::vector<Named> all_properties(const InstanceObject& object) {
+  std::vector<Named> all;
+  if (object.cls != nullptr)
+    for (const auto* property : object.broker->classes.properties(*object.cls))
+      all.push_back({property->name, {cim::host::cmpi_type(*property), CMPI_nullValue, {}}});
+  for (const auto* list : {&object.defaults, &object.keys, &object.properties})
+    for (const Named& property : *list)
+      set(all, property.name.c_str(), property.data);
+  if (object.filtered && !object.broker->behavior.filter_on_output)
+    std::erase_if(all,
+                  [&](const Named& each) { return !is_listed(object.filter, each.name.c_str()); });
+  return all;
+}
+
 CMPIData get_property(const CMPIInstance* instance, const char* name, CMPIStatus* rc) {
-  return item(of(instance).properties, name, rc);
+  const Pause pause;
+  const InstanceObject& object = of(instance);
+  const Guard guard(object.broker->mutex);
+  std::vector<Named> all = all_properties(object);
+  return item(*object.broker, all, name, CMPI_RC_ERR_NO_SUCH_PROPERTY, rc);
 }
 
 CMPIData get_property_at(const CMPIInstance* instance, CMPICount index, CMPIString** name,
@@ -320,12 +465,52 @@ CMPIData get_property_at(const CMPIInstance* instance, CMPICount index, CMPIStri
   const Pause pause;
   Impl& broker = *of(instance).broker;
   const Guard guard(broker.mutex);
-  return item(of(instance).properties, index, name, broker, rc);
+  return item(all_properties(of(instance)), index, name, broker, rc);
 }
 
 CMPICount get_property_count(const CMPIInstance* instance, CMPIStatus* rc) {
+  const Pause pause;
+  const Guard guard(of(instance).broker->mutex);
   put(rc, CMPI_RC_OK);
-  return static_cast<CMPICount>(of(instance).properties.size());
+  return static_cast<CMPICount>(all_properties(of(instance)).size());
+}
+
+CMPIType as_kept(CMPIType type) {
+  if (type == CMPI_chars) return CMPI_string;
+  return type == CMPI_charsA ? CMPIType{CMPI_stringA} : type;
+}
+
+// What the broker does with a value of an instance whose class it knows: OK to keep it.
+struct Judgement {
+  CMPIrc code = CMPI_RC_OK;
+  bool kept = true;
+};
+
+Judgement judge(const InstanceObject& object, const char* name, CMPIType type) {
+  const Impl& broker = *object.broker;
+  const std::string what = object.class_name + "." + name;
+  const auto* property = broker.classes.property(*object.cls, name);
+  if (property == nullptr) {
+    broker.left_out(what + " is not declared");
+    switch (broker.behavior.unknown_property) {
+      case UnknownProperty::refuse:
+        return {CMPI_RC_ERR_NO_SUCH_PROPERTY, false};
+      case UnknownProperty::drop:
+        return {CMPI_RC_OK, false};
+      case UnknownProperty::add:
+        return {};
+    }
+  }
+  if (as_kept(type) == cim::host::cmpi_type(*property)) return {};
+  if (type == CMPI_null && !broker.behavior.null_needs_type) return {};
+  broker.left_out(what + " was set with type " + std::to_string(type));
+  if (broker.behavior.wrong_type == WrongType::refuse)
+    return {CMPI_RC_ERR_INVALID_DATA_TYPE, false};
+  if (type == CMPI_chars) {
+    ADD_FAILURE() << what << ": a broker in use ends the process here";
+    return {CMPI_RC_ERR_INVALID_DATA_TYPE, false};
+  }
+  return {};
 }
 
 CMPIStatus set_property(const CMPIInstance* instance, const char* name, const CMPIValue* value,
@@ -336,16 +521,12 @@ CMPIStatus set_property(const CMPIInstance* instance, const char* name, const CM
   const Guard guard(broker.mutex);
   ++broker.set_calls;
   if (fails(broker.property_fails)) return {CMPI_RC_ERR_FAILED, nullptr};
-  const auto declared = broker.declared.find(name);
-  const CMPIType kept = type == CMPI_chars ? CMPI_string : type;
-  if (declared != broker.declared.end() && declared->second != kept)
-    return {CMPI_RC_ERR_INVALID_DATA_TYPE, nullptr};
-  if (object.filtered) {
-    bool listed = false;
-    for (const std::string& wanted : object.filter)
-      listed = listed || same(wanted, name);
-    if (!listed) return {CMPI_RC_OK, nullptr};
+  if (object.cls != nullptr) {
+    const Judgement judgement = judge(object, name, type);
+    if (!judgement.kept) return {judgement.code, nullptr};
   }
+  const bool filters_now = object.filtered && !broker.behavior.filter_on_output;
+  if (filters_now && !is_listed(object.filter, name)) return {CMPI_RC_OK, nullptr};
   set(object.properties, name, broker.keep(value, type, CMPI_goodValue));
   return {CMPI_RC_OK, nullptr};
 }
@@ -378,9 +559,11 @@ CMPICount get_size(const CMPIArray* array, CMPIStatus* rc) {
 }
 
 CMPIData get_element(const CMPIArray* array, CMPICount index, CMPIStatus* rc) {
-  if (index >= of(array).elements.size()) return no_data(rc, CMPI_RC_ERR_NO_SUCH_PROPERTY);
+  const ArrayObject& object = of(array);
+  if (index >= object.elements.size())
+    return no_data(*object.broker, rc, CMPI_RC_ERR_NO_SUCH_PROPERTY);
   put(rc, CMPI_RC_OK);
-  return of(array).elements[index];
+  return object.elements[index];
 }
 
 CMPIStatus set_element(const CMPIArray* array, CMPICount index, const CMPIValue* value,
@@ -389,6 +572,13 @@ CMPIStatus set_element(const CMPIArray* array, CMPICount index, const CMPIValue*
   ArrayObject& object = of(array);
   const Guard guard(object.broker->mutex);
   if (index >= object.elements.size()) return {CMPI_RC_ERR_NO_SUCH_PROPERTY, nullptr};
+  const bool fits = type == object.type || (type == CMPI_chars && object.type == CMPI_string &&
+                                            object.broker->behavior.texts_fit_string_arrays);
+  if (!fits) {
+    object.broker->left_out("an array of type " + std::to_string(object.type) +
+                            " was given an element of type " + std::to_string(type));
+    return {CMPI_RC_ERR_TYPE_MISMATCH, nullptr};
+  }
   object.elements[index] = object.broker->keep(value, type, CMPI_goodValue);
   return {CMPI_RC_OK, nullptr};
 }
@@ -404,7 +594,7 @@ CMPIStatus add_argument(const CMPIArgs* args, const char* name, const CMPIValue*
 }
 
 CMPIData get_argument(const CMPIArgs* args, const char* name, CMPIStatus* rc) {
-  return item(of(args).arguments, name, rc);
+  return item(*of(args).broker, of(args).arguments, name, CMPI_RC_ERR_NOT_FOUND, rc);
 }
 
 // ---- results ----
@@ -467,11 +657,19 @@ CMPIInstance* new_instance(const CMPIBroker* face, const CMPIObjectPath* path, C
     put(rc, CMPI_RC_ERR_FAILED);
     return nullptr;
   }
-  InstanceObject& object = broker.instances.emplace_back();
-  object.broker = &broker;
-  object.name_space = of(path).name_space;
-  object.class_name = of(path).class_name;
-  object.face = {&object, &broker.instance_table};
+  const PathObject& of_path = of(path);
+  const auto* cls = broker.classes.find(of_path.class_name);
+  if (cls == nullptr) {
+    broker.left_out("there is no class " + of_path.class_name);
+    if (!broker.behavior.instances_of_unknown_class) {
+      put(rc, CMPI_RC_ERR_INVALID_CLASS);
+      return nullptr;
+    }
+  }
+  InstanceObject& object = broker.instance(of_path);
+  object.cls = cls;
+  if (broker.behavior.keys_copied_to_instance) object.keys = of_path.keys;
+  if (broker.behavior.class_defaults) broker.set_defaults(object);
   put(rc, CMPI_RC_OK);
   return &object.face;
 }
@@ -481,7 +679,10 @@ CMPIString* new_string(const CMPIBroker* face, const char* text, CMPIStatus* rc)
   Impl& broker = impl_of(face);
   const Guard guard(broker.mutex);
   put(rc, CMPI_RC_OK);
-  return broker.string(text);
+  if (text != nullptr) return broker.string(text);
+  if (!broker.behavior.key_state) return broker.no_string();
+  put(rc, CMPI_RC_ERR_INVALID_PARAMETER);
+  return nullptr;
 }
 
 CMPIArray* new_array(const CMPIBroker* face, CMPICount count, CMPIType type, CMPIStatus* rc) {
@@ -548,9 +749,17 @@ void TestBroker::Impl::fill_tables() {
   face = {this, &broker_table, &encapsulated, nullptr, nullptr};
 }
 
-TestBroker::TestBroker() {
+Behavior mode() {
   const Pause pause;
-  impl_ = std::make_unique<Impl>();
+  const char* name = std::getenv("VEXOR_HOST_MODE");
+  const auto behavior = Behavior::named(name != nullptr ? name : "strict");
+  if (!behavior) ADD_FAILURE() << "VEXOR_HOST_MODE=" << name << ": there is no such mode";
+  return behavior.value_or(Behavior{});
+}
+
+TestBroker::TestBroker(const Behavior& behavior) {
+  const Pause pause;
+  impl_ = std::make_unique<Impl>(behavior);
   impl_->fill_tables();
 }
 
@@ -582,7 +791,12 @@ CMPIObjectPath* TestBroker::add_reference(CMPIObjectPath* path, const char* key,
 }
 
 CMPIInstance* TestBroker::instance(const char* class_name) {
-  return new_instance(face(), path(class_name), nullptr);
+  const Pause pause;
+  const CMPIObjectPath* of_class = path(class_name);
+  const Guard guard(impl_->mutex);
+  InstanceObject& object = impl_->instance(of(of_class));
+  if (impl_->behavior.defaults_in_requests) impl_->set_defaults(object);
+  return &object.face;
 }
 
 CMPIArgs* TestBroker::arguments() {
@@ -616,8 +830,13 @@ std::string TestBroker::text(const CMPIString* string) const {
 void TestBroker::derives(const char* class_name, const char* superclass) {
   impl_->superclasses[class_name] = superclass;
 }
-void TestBroker::declare(const char* property, CMPIType type) {
-  impl_->declared[property] = type;
+void TestBroker::expect_refused_values() {
+  impl_->refusals_are_expected = true;
+}
+void TestBroker::add_classes(const char* mof) {
+  const Pause pause;
+  for (const auto& problem : impl_->classes.add(cim::schema::read_mof_text(mof)))
+    ADD_FAILURE() << problem.message;
 }
 void TestBroker::leave_out_optional_slots() {
   impl_->encapsulated.classPathIsA = nullptr;

@@ -1,6 +1,10 @@
 // A small object manager for provider tests: objects with all their getters, results that keep what
 // a provider returns, and the ways in which brokers differ and fail.
 //
+// It behaves as one of the object managers of host/behavior.h, which the environment variable
+// VEXOR_HOST_MODE names (none: strict). It knows the classes of mof/vexor.mof and those that a test
+// adds. Wherever it leaves a provider's value out, the test fails.
+//
 // Its own memory is not seen by a heap ledger. Objects live as long as it does. Two threads may use
 // it at once.
 #ifndef TESTS_PROVIDERS_TEST_BROKER_H
@@ -14,6 +18,8 @@
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "host/behavior.h"
 
 namespace provider_tests {
 
@@ -29,9 +35,12 @@ struct Returned {
   int done = 0;
 };
 
+// What VEXOR_HOST_MODE names.
+cim::host::Behavior mode();
+
 class TestBroker {
  public:
-  TestBroker();
+  explicit TestBroker(const cim::host::Behavior& behavior = mode());
   ~TestBroker();
   TestBroker(const TestBroker&) = delete;
   TestBroker& operator=(const TestBroker&) = delete;
@@ -43,6 +52,7 @@ class TestBroker {
   CMPIObjectPath* path(const char* class_name,
                        const std::vector<std::pair<const char*, const char*>>& text_keys = {});
   CMPIObjectPath* add_reference(CMPIObjectPath* path, const char* key, CMPIObjectPath* object);
+  // As a client sent it: with whatever the test sets, unchecked.
   CMPIInstance* instance(const char* class_name);
   CMPIArgs* arguments();
   // A result that keeps what it is given in `returned`, which must outlive it.
@@ -53,10 +63,12 @@ class TestBroker {
   std::string text(const CMPIString* string) const;  // "" for null
 
   // ---- how it behaves ----
+  // Classes beside those of mof/vexor.mof.
+  void add_classes(const char* mof);
   // Classes are unknown to classPathIsA until their superclass was told.
   void derives(const char* class_name, const char* superclass);
-  // A property that has another type than this is refused.
-  void declare(const char* property, CMPIType type);
+  // Values that are refused or left out do not fail the test: it is about them.
+  void expect_refused_values();
   // Slots that brokers leave out: classPathIsA, setPropertyFilter.
   void leave_out_optional_slots();
   void ignore_property_filters();

@@ -135,8 +135,7 @@ TEST_F(Ports, A_modified_port_is_there_in_the_next_run) {
 TEST_F(Ports, What_a_port_cannot_be_set_to_is_refused) {
   expect_error(1, "VEXOR_FCPortSettings: RequestedSpeed is 5, not 0, 1062500000 or 2125000000",
                {"modify", kSettings9, "RequestedSpeed=5"});
-  expect_error(1, "VEXOR_FCPort: \"VsanId\" of a VEXOR_FCPort cannot be changed",
-               {"modify", kFc9, "VsanId=2"});
+  expect_error(1, "\"VsanId\" of a VEXOR_FCPort cannot be changed", {"modify", kFc9, "VsanId=2"});
 }
 
 TEST_F(Ports, A_state_that_a_port_does_not_have_ends_with_1) {

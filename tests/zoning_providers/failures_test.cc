@@ -57,14 +57,19 @@ class ZoningFailures : public ZoningFixture {
       all.push_back({"get " + broker_.text(path), [=](const CMPIResult* to) {
                        return mi->ft->getInstance(mi, nullptr, to, path, nullptr);
                      }});
-    for (CMPIObjectPath* path : {zone_set("1_2_0"), zone("1_7_0"), alias("1_3_0"),
-                                 member("1^2^2100000000000001^0"), vsan_path("2001000DEC0A1B2D")})
-      for (const char* cls : {"VEXOR_ZoneMemberOfCollection", "VEXOR_ZoneElementSettingData",
-                              "VEXOR_ZoneHostedCollection"})
-        all.push_back({"from " + broker_.text(path) + " by " + cls, [=](const CMPIResult* to) {
-                         return am->ft->associators(am, nullptr, to, path, cls, nullptr, nullptr,
-                                                    nullptr, nullptr);
-                       }});
+    const auto walk = [&](CMPIObjectPath* path, const char* cls) {
+      all.push_back({"from " + broker_.text(path) + " by " + cls, [=](const CMPIResult* to) {
+                       return am->ft->associators(am, nullptr, to, path, cls, nullptr, nullptr,
+                                                  nullptr, nullptr);
+                     }});
+    };
+    for (CMPIObjectPath* path : {zone_set("1_2_0"), zone("1_7_0"), alias("1_3_0")}) {
+      walk(path, "VEXOR_ZoneMemberOfCollection");
+      walk(path, "VEXOR_ZoneHostedCollection");
+    }
+    for (CMPIObjectPath* path : {zone("1_7_0"), alias("1_3_0"), member("1^2^2100000000000001^0")})
+      walk(path, "VEXOR_ZoneElementSettingData");
+    walk(vsan_path("2001000DEC0A1B2D"), "VEXOR_ZoneHostedCollection");
     return all;
   }
 
