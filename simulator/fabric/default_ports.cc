@@ -35,6 +35,19 @@ void use(Switch& element, uint32_t if_index, const char* alias, uint32_t vsan) {
   used.counters = CounterProfile::steady;
 }
 
+// A chassis of nine slots; its serial number ends as the WWN of the switch.
+void add_chassis(Switch& element, const char* serial_number) {
+  element.chassis = {"QRX4400", "68-1180-04", serial_number, 9, 2, 2, 2};
+}
+
+// Modules that have no ports. One of the crossbars has failed, and a slot is powered down.
+void add_other_modules(Switch& element) {
+  element.modules.push_back({4, ModuleKind::services, ModuleState::powered_down, 0});
+  element.modules.push_back({6, ModuleKind::supervisor, ModuleState::ok, 0});
+  element.modules.push_back({7, ModuleKind::crossbar, ModuleState::ok, 0});
+  element.modules.push_back({8, ModuleKind::crossbar, ModuleState::failed, 0});
+}
+
 void add_modules(Switch& element, uint32_t ethernet_ports) {
   element.modules = {{1, ModuleKind::fibre_channel, ModuleState::ok, 16},
                      {5, ModuleKind::supervisor, ModuleState::ok, 0}};
@@ -79,6 +92,8 @@ void add_port_channel(Switch& element) {
 
 void cable_first_switch(Switch& element) {
   add_modules(element, 4);
+  add_other_modules(element);
+  add_chassis(element, "VX0951A02C");
   use(element, fc(1), "host-a", 1);
   use(element, fc(2), "switch-2", 1);
   use(element, fc(3), "array-1", 1);
@@ -105,6 +120,7 @@ void cable_first_switch(Switch& element) {
 
 void cable_second_switch(Switch& element) {
   add_modules(element, 4);
+  add_chassis(element, "VX0951A05E");
   use(element, fc(1), "array-2", 1);
   use(element, fc(2), "switch-1", 1);
   use(element, fc(3), "host-c", 2);
@@ -116,6 +132,7 @@ void cable_second_switch(Switch& element) {
 
 void cable_third_switch(Switch& element) {
   add_modules(element, 0);
+  add_chassis(element, "VX0951A090");
   use(element, fc(1), "tape-1", 1);
   use(element, fc(2), "array-2b", 2);
   use(element, fc(9), "switch-2", 1);

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "simulator/fabric/hardware.h"
 #include "simulator/fabric/ports.h"
 #include "simulator/fabric/topology_cache.h"
 #include "simulator/fabric/wwn.h"
@@ -51,6 +52,7 @@ struct Switch {
   SystemInformation system;
   std::vector<Module> modules;        // by slot, rising
   std::vector<Interface> interfaces;  // by interface index, rising
+  Chassis chassis;
   friend bool operator==(const Switch&, const Switch&) = default;
 };
 

@@ -13,6 +13,7 @@
 
 #include "simulator/fabric/fabric_file.h"
 #include "simulator/fabric/fabric_words.h"
+#include "simulator/fabric/hardware_file.h"
 #include "simulator/fabric/json.h"
 #include "simulator/fabric/object_reader.h"
 #include "simulator/fabric/port_file.h"
@@ -116,7 +117,7 @@ class FabricReader {
     const ObjectReader object(
         value, "a switch",
         {"name", "wwn", "address", "contact", "location", "description", "software_version",
-         "object_id", "services", "uptime_hundredths", "modules", "interfaces"});
+         "object_id", "services", "uptime_hundredths", "chassis", "modules", "interfaces"});
     Switch made;
     made.name = read_name(object.at("name"), kLongestSystemName);
     made.wwn = read_switch_wwn(object.at("wwn"));
@@ -134,6 +135,7 @@ class FabricReader {
     made.system.uptime_hundredths =
         read_number<uint32_t>(object, "uptime_hundredths", 0, UINT32_MAX, 0);
     read_ports(object, made);
+    read_chassis(object, made);
     if (!wwns_.insert(made.wwn).second) {
       throw Problem{object.position_of("wwn"), "another switch has this WWN"};
     }

@@ -10,6 +10,7 @@
 
 #include "simulator/fabric/fabric_file.h"
 #include "simulator/fabric/fabric_words.h"
+#include "simulator/fabric/hardware_file.h"
 #include "simulator/fabric/json.h"
 #include "simulator/fabric/port_file.h"
 #include "simulator/fabric/zoning_file.h"
@@ -49,7 +50,7 @@ void write_switch(std::string& text, const Switch& element) {
   line("object_id", quote(object_id_text(system.object_id)));
   line("services", std::to_string(system.services));
   line("uptime_hundredths", std::to_string(system.uptime_hundredths), "");
-  text += ports_text(element) + "\n    }";
+  text += chassis_text(element.chassis) + ports_text(element) + "\n    }";
 }
 
 void write_domain(std::string& text, const DomainManager& domain) {

@@ -1,6 +1,7 @@
 #include "simulator/fabric/generator_ports.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <map>
 
 #include "simulator/fabric/random.h"
@@ -52,11 +53,26 @@ class PortGenerator {
       left -= ports;
     }
     element.modules.push_back({slot, ModuleKind::supervisor, ModuleState::ok, 0});
+    add_chassis(element, slot);
     add_missing_ports(element);
     for (const Interface& port : element.interfaces)
       free.ports.push_back(port.if_index);
     std::reverse(free.ports.begin(), free.ports.end());
     add_management(element);
+  }
+
+  // The chassis, and modules without ports behind the supervisor in `slot`: a second supervisor,
+  // two crossbars of which one has failed, and a module that is powered down.
+  static void add_chassis(Switch& element, uint32_t slot) {
+    element.modules.push_back({slot + 1, ModuleKind::supervisor, ModuleState::ok, 0});
+    element.modules.push_back({slot + 2, ModuleKind::crossbar, ModuleState::ok, 0});
+    element.modules.push_back({slot + 3, ModuleKind::crossbar, ModuleState::failed, 0});
+    element.modules.push_back({slot + 4, ModuleKind::services, ModuleState::powered_down, 0});
+    char serial_number[kLongestPromText + 1];
+    const auto& wwn = element.wwn.bytes;
+    snprintf(serial_number, sizeof serial_number, "VX%02X%02X%02X%02X", wwn[4], wwn[5], wwn[6],
+             wwn[7]);
+    element.chassis = {"QRX4400", "68-1180-04", serial_number, slot + 5, 2, 2, 2};
   }
 
   static void add_management(Switch& element) {

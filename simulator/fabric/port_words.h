@@ -10,10 +10,10 @@
 namespace switch_sim {
 
 // In the order of the enumerations, whose first value is 1.
-inline constexpr std::array<std::string_view, 3> kModuleKindWords = {"supervisor", "fibre-channel",
-                                                                     "ip-storage"};
-inline constexpr std::array<std::string_view, 3> kModuleStateWords = {"ok", "powered-down",
-                                                                      "failed"};
+inline constexpr std::array<std::string_view, 5> kModuleKindWords = {
+    "supervisor", "fibre-channel", "ip-storage", "crossbar", "services"};
+inline constexpr std::array<std::string_view, 4> kModuleStateWords = {"ok", "powered-down",
+                                                                      "failed", "starting"};
 inline constexpr std::array<std::string_view, 2> kAdminStateWords = {"up", "down"};
 inline constexpr std::array<std::string_view, 3> kOpticsWords = {"none", "supported",
                                                                  "unsupported"};

@@ -49,7 +49,7 @@ void write_module(std::string& text, const Module& module) {
   line.add("slot", std::to_string(module.slot));
   line.add("kind", word_of(module.kind, kModuleKindWords));
   line.add("state", word_of(module.state, kModuleStateWords));
-  if (module.kind != ModuleKind::supervisor) line.add("ports", std::to_string(module.ports));
+  if (module.ports != 0) line.add("ports", std::to_string(module.ports));
 }
 
 std::string mode_text(PortMode mode) {

@@ -20,6 +20,10 @@ InterfaceType type_of(uint32_t if_index) {
   return static_cast<InterfaceType>(type_bits(if_index));
 }
 
+bool has_ports(ModuleKind kind) {
+  return kind == ModuleKind::fibre_channel || kind == ModuleKind::ip_storage;
+}
+
 bool is_port_of_module(InterfaceType type) {
   return type == InterfaceType::fibre_channel || type == InterfaceType::ethernet;
 }
@@ -43,6 +47,9 @@ const char* problem_of(const Module& module) {
   switch (module.kind) {
     case ModuleKind::supervisor:
       return module.ports != 0 ? "a supervisor has no ports" : nullptr;
+    case ModuleKind::crossbar:
+    case ModuleKind::services:
+      return module.ports != 0 ? "such a module has no ports" : nullptr;
     case ModuleKind::fibre_channel:
       return module.ports < 1 || module.ports > kMostFcPorts
                  ? "a Fibre Channel module has 1 to 63 ports"
@@ -291,6 +298,9 @@ std::optional<std::string> problem_of_ports(const Switch& element) {
       return where + interface_name(port.if_index) + ": the port of the module is missing";
     }
   }
+  if (const auto problem = problem_of_chassis(element)) {
+    return where + "chassis: " + problem->message;
+  }
   if (const auto problem = problem_of_interfaces(element)) {
     return where + interface_name(element.interfaces[problem->element].if_index) + ": " +
            problem->message;
@@ -309,7 +319,7 @@ void add_missing_ports(Switch& element) {
     element.interfaces.emplace_back().if_index = if_index;
   };
   for (const Module& module : element.modules) {
-    if (module.kind == ModuleKind::supervisor) continue;
+    if (!has_ports(module.kind)) continue;
     for (uint32_t unit = 1; unit <= module.ports; ++unit)
       add(make_if_index(port_type(module.kind), module.slot, unit));
   }
@@ -350,7 +360,7 @@ const Module* module_of(const Switch& element, uint32_t if_index) {
   }
   if (!is_port_of_module(type) && type != InterfaceType::iscsi) return nullptr;
   const Module* module = find_module(element, slot_bits(if_index));
-  if (module == nullptr || module->kind == ModuleKind::supervisor) return nullptr;
+  if (module == nullptr || !has_ports(module->kind)) return nullptr;
   const InterfaceType wanted = type == InterfaceType::iscsi ? InterfaceType::ethernet : type;
   const uint32_t unit = unit_bits(if_index);
   return port_type(module->kind) == wanted && unit >= 1 && unit <= module->ports ? module : nullptr;

@@ -26,12 +26,18 @@ inline constexpr size_t kMostChannelMembers = 16;
 inline constexpr size_t kLongestAlias = 81;
 inline constexpr size_t kMostLoopDevices = 126;
 
-enum class ModuleKind : uint8_t { supervisor = 1, fibre_channel = 2, ip_storage = 3 };
+enum class ModuleKind : uint8_t {
+  supervisor = 1,
+  fibre_channel = 2,
+  ip_storage = 3,
+  crossbar = 4,
+  services = 5,
+};
 
-enum class ModuleState : uint8_t { ok = 1, powered_down = 2, failed = 3 };
+enum class ModuleState : uint8_t { ok = 1, powered_down = 2, failed = 3, starting = 4 };
 
 // What sits in a slot. A Fibre Channel or IP storage module has ports 0 to ports - 1, all of which
-// are interfaces of the switch; a supervisor has none of its own.
+// are interfaces of the switch; the others have none of their own.
 struct Module {
   uint32_t slot = 0;
   ModuleKind kind = ModuleKind::fibre_channel;

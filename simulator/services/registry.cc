@@ -4,6 +4,7 @@
 
 #include "simulator/local/platform_status.h"
 #include "simulator/services/services.h"
+#include "simulator/transport/hardware_messages.h"
 #include "simulator/transport/port_messages.h"
 #include "simulator/transport/zone_server_messages.h"
 
@@ -43,6 +44,12 @@ constexpr std::array kRows = {
     Row{kNameServer, kDevicesOfPortType, services::registered_devices},
     Row{kNameServer, kFc4Devices, services::fc4_devices},
     Row{Service::fabric_distribution, kDiscoverPeers, services::discover_peers},
+    Row{Service::platform_manager, kPhysicalEntity, services::physical_entity_table},
+    Row{Service::platform_manager, kModule, services::module_table},
+    Row{Service::platform_manager, kEntityOfSlot, services::entity_of_slot},
+    Row{Service::platform_manager, kSlotOfEntity, services::slot_of_entity},
+    Row{Service::platform_manager, kSerialProm, services::serial_prom},
+    Row{Service::platform_manager, kChassisId, services::chassis_id},
     Row{Service::switch_identity, 1282, services::switch_identity},
     Row{Service::system_name, 878, services::set_system_name},
     Row{Service::system_information, 1812, services::system_information},

@@ -64,6 +64,14 @@ Outcome fc4_devices(const Request& request, Fabric& fabric, VirtualTime now);
 // fabric_distribution.cc
 Outcome discover_peers(const Request& request, Fabric& fabric, VirtualTime now);
 
+// platform_manager.cc
+Outcome module_table(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome physical_entity_table(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome entity_of_slot(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome slot_of_entity(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome serial_prom(const Request& request, Fabric& fabric, VirtualTime now);
+Outcome chassis_id(const Request& request, Fabric& fabric, VirtualTime now);
+
 // switch_identity.cc, system_name.cc, system_information.cc
 Outcome switch_identity(const Request& request, Fabric& fabric, VirtualTime now);
 Outcome set_system_name(const Request& request, Fabric& fabric, VirtualTime now);

@@ -274,9 +274,10 @@ class InstalledDefinitions : public testing::Test {
  protected:
   // The object manager's part of the definitions, then ours.
   void SetUp() override {
-    const std::string mof = std::string(CIM_SOURCE_DIR) + "/mof/";
-    ASSERT_EQ("", all(repository_.add_file(mof + "qualifiers.mof")));
-    ASSERT_EQ("", all(repository_.add_file(mof + "cim_core.mof")));
+    constexpr const char* kSchema =
+        "#pragma include (\"cim_hardware.mof\")\n#pragma include (\"cim_zoning.mof\")\n";
+    ASSERT_EQ("", all(repository_.add(cim::schema::read_mof_text(
+                      kSchema, std::string(CIM_SOURCE_DIR) + "/mof/cim_schema.mof"))));
     theirs_ = repository_.all().size();
     ASSERT_EQ("", all(repository_.add(
                       cim::schema::read_mof_text(made("vexor_classes.mof"), "vexor_classes.mof"))));

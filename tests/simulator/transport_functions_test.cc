@@ -100,8 +100,8 @@ TEST_F(TransportFunctions, AnUnknownOpcodeAndAnUnknownServiceAreToldApart) {
 }
 
 TEST_F(TransportFunctions, ServicesWithoutAModelAreNotAvailable) {
-  expect_refused(call(39, 1026, 1, Pattern(4).bytes()), kServiceNotAvailable);
-  expect_refused(call(39, 1029, 1, Pattern(4).bytes()), kServiceNotAvailable);
+  expect_refused(call(1, 1026, 1, Pattern(4).bytes()), kServiceNotAvailable);
+  expect_refused(call(99, 1029, 1, Pattern(4).bytes()), kServiceNotAvailable);
 }
 
 TEST_F(TransportFunctions, RepliesAreCountedAsHandedOut) {
