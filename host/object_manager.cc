@@ -374,8 +374,7 @@ ObjectPath ObjectManager::create_instance(const Instance& instance) {
   Request request(*this);
   CMPIInstanceMI* const mi = provider(cls).instance_mi(request.context);
   Returned returned(broker_, ResultOf::paths);
-  const CMPIInstance* const given =
-      make<CMPIInstance>(broker_, request_content(broker_, complete));
+  const CMPIInstance* const given = make<CMPIInstance>(broker_, request_content(broker_, complete));
   call_provider(cls, [&] {
     return present(mi->ft->createInstance, "createInstance", cls)(
         mi, request.context, returned.result, request.path(complete.path), given);
@@ -396,8 +395,7 @@ void ObjectManager::modify_instance(const Instance& instance, const PropertyList
   NameArray names(properties);
   CMPIInstanceMI* const mi = provider(cls).instance_mi(request.context);
   Returned returned(broker_, ResultOf::paths);
-  const CMPIInstance* const given =
-      make<CMPIInstance>(broker_, request_content(broker_, complete));
+  const CMPIInstance* const given = make<CMPIInstance>(broker_, request_content(broker_, complete));
   call_provider(cls, [&] {
     return present(mi->ft->modifyInstance, "modifyInstance", cls)(
         mi, request.context, returned.result, request.path(complete.path), given, names.data());

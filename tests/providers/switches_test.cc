@@ -301,7 +301,8 @@ TEST_F(ProviderSwitches, AVsanLeadsToItsSwitches) {
 }
 
 TEST_F(ProviderSwitches, APartLeadsToItsVsanAndBack) {
-  EXPECT_EQ(associators(logical_path("2002000DEC0A1B2D"), {}).returned.instances,
+  EXPECT_EQ(associators(logical_path("2002000DEC0A1B2D"), Filter{.association = "VEXOR_Component"})
+                .returned.instances,
             (Texts{kVsan2Instance}));
   const Filter filter{.association = "VEXOR_Component",
                       .result_class = "VEXOR_LogicalComputerSystem"};

@@ -154,9 +154,10 @@ INSTANTIATE_TEST_SUITE_P(
         WrongFile{with_modules(R"({"slot": 32, "kind": "supervisor"})"),
                   "f:3:24: expected a whole number from 1 to 31"},
         WrongFile{with_modules(R"({"slot": 1})"), "f:3:15: a module lacks \"kind\""},
-        WrongFile{with_modules(R"({"slot": 1, "kind": "fiber-channel"})"),
-                  "f:3:35: expected \"supervisor\", \"fibre-channel\", \"ip-storage\", \"crossbar\" or "
-                  "\"services\" (did you mean \"fibre-channel\"?)"},
+        WrongFile{
+            with_modules(R"({"slot": 1, "kind": "fiber-channel"})"),
+            "f:3:35: expected \"supervisor\", \"fibre-channel\", \"ip-storage\", \"crossbar\" or "
+            "\"services\" (did you mean \"fibre-channel\"?)"},
         WrongFile{with_modules(R"({"slot": 1, "kind": "fibre-channel", "ports": 64})"),
                   "f:3:61: expected a whole number from 0 to 63"},
         WrongFile{with_modules(R"({"slot": 1, "kind": "fibre-channel"})"),
