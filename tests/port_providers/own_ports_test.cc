@@ -184,7 +184,9 @@ TEST_F(OwnPorts, ARecordMayEndBehindTheLastFieldThatIsRead) {
   fail(switch_sim::kPortConfiguration, Fault::Kind::short_reply, 202);
   EXPECT_EQ(value(get(port_path(kFc1)), "PeerPortWWN"), "2100001122334401");
   EXPECT_EQ(names("VEXOR_FCPortSettings").size(), 17u);
-  fail(switch_sim::kPortConfiguration, Fault::Kind::short_reply, 201);
+  // The C library rounds blocks up to 8 behind a multiple of 16: 200 is the longest that it shows
+  // as too short.
+  fail(switch_sim::kPortConfiguration, Fault::Kind::short_reply, 200);
   expect_not_found(port_path(kFc1));
 }
 
