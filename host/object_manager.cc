@@ -282,6 +282,15 @@ std::vector<const schema::Class*> ObjectManager::served_classes(const schema::Cl
   return served;
 }
 
+/// Whether an object that a provider gave for `asked` is to be kept. A provider may also give those
+/// of subclasses; each of these is asked for by itself.
+static bool belongs_to(const schema::Class& asked, const std::string& class_name,
+                       const std::vector<const schema::Class*>& served) {
+  if (equal_names(class_name, asked.name)) return true;
+  return std::none_of(served.begin(), served.end(),
+                      [&](const schema::Class* cls) { return equal_names(cls->name, class_name); });
+}
+
 /// Calls `call(class)` for each class at or below the named one. A class whose provider does not
 /// support the operation is left out as long as another one does.
 template <class Call>
@@ -314,6 +323,8 @@ std::vector<Instance> ObjectManager::enumerate_instances(std::string_view name_s
   std::vector<Instance> all;
   Request request(*this, CMPI_FLAG_DeepInheritance);
   NameArray names(properties);
+  check_name_space(name_space);
+  const auto served = served_classes(find_class(class_name));
   for_each_served(name_space, class_name, [&](const schema::Class& cls) {
     CMPIInstanceMI* const mi = provider(cls).instance_mi(request.context);
     Returned returned(broker_, ResultOf::instances);
@@ -322,7 +333,8 @@ std::vector<Instance> ObjectManager::enumerate_instances(std::string_view name_s
       return present(mi->ft->enumerateInstances, "enumerateInstances", cls)(
           mi, request.context, returned.result, path, names.data());
     });
-    std::move(returned.instances.begin(), returned.instances.end(), std::back_inserter(all));
+    for (Instance& instance : returned.instances)
+      if (belongs_to(cls, instance.path.class_name, served)) all.push_back(std::move(instance));
   });
   for (Instance& instance : all)
     make_local(name_space, instance.path);
@@ -334,6 +346,8 @@ std::vector<ObjectPath> ObjectManager::enumerate_instance_names(std::string_view
                                                                 std::string_view class_name) {
   std::vector<ObjectPath> all;
   Request request(*this);
+  check_name_space(name_space);
+  const auto served = served_classes(find_class(class_name));
   for_each_served(name_space, class_name, [&](const schema::Class& cls) {
     CMPIInstanceMI* const mi = provider(cls).instance_mi(request.context);
     Returned returned(broker_, ResultOf::paths);
@@ -342,7 +356,8 @@ std::vector<ObjectPath> ObjectManager::enumerate_instance_names(std::string_view
       return present(mi->ft->enumerateInstanceNames, "enumerateInstanceNames", cls)(
           mi, request.context, returned.result, path);
     });
-    std::move(returned.paths.begin(), returned.paths.end(), std::back_inserter(all));
+    for (ObjectPath& found : returned.paths)
+      if (belongs_to(cls, found.class_name, served)) all.push_back(std::move(found));
   });
   for (ObjectPath& path : all)
     make_local(name_space, path);

@@ -3,6 +3,9 @@
 #include "model/connectivity.h"
 #include "pegasus/builder.h"
 
+// References are taken by value where the interface of ProviderUtil does.
+// NOLINTBEGIN(performance-unnecessary-value-param)
+
 using namespace cim_utils;
 using Pegasus::CIMInstance;
 using Pegasus::CIMObject;
@@ -345,3 +348,5 @@ CIMObject ProviderUtil::system_device_build_object(const char* className, const 
                                                    ns_api_register_req_* device) {
   return CIMObject(system_device_build_instance(className, nameSpace, attached, device));
 }
+
+// NOLINTEND(performance-unnecessary-value-param)

@@ -5,6 +5,9 @@
 
 #include "pegasus/builder.h"
 
+// References are taken by value where the interface of ProviderUtil does.
+// NOLINTBEGIN(performance-unnecessary-value-param)
+
 using namespace cim_utils;
 using Pegasus::CIMInstance;
 using Pegasus::CIMObject;
@@ -152,3 +155,5 @@ CIMObject ProviderUtil::realize_build_object(const char* className, const String
                                              CIMObjectPath physicalRef, CIMObjectPath logicalRef) {
   return CIMObject(realize_build_instance(className, nameSpace, physicalRef, logicalRef));
 }
+
+// NOLINTEND(performance-unnecessary-value-param)

@@ -30,6 +30,8 @@ template <class... Builders>
 struct Overloaded : Builders... {
   using Builders::operator()...;
 };
+template <class... Builders>
+Overloaded(Builders...) -> Overloaded<Builders...>;
 
 // Both ends of every link by their names. Ends without one share an endpoint for each switch.
 std::vector<LinkEnd> link_endpoints(int32_t q, const std::vector<uint32_t>& vsans) {

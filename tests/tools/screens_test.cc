@@ -183,6 +183,15 @@ TEST_F(Screens, Help_teaches_by_examples) {
   expect_screen("help_switch.txt", {"switch", "--help"});
 }
 
+TEST_F(Screens, Enumerate_of_a_superclass_shows_each_object_once) {
+  const Outcome outcome = run({"enumerate", "VEXOR_ComputerSystem"});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_NE(outcome.out.find("VEXOR_PhysicalComputerSystem   3 instances in root/cimv2\n"),
+            std::string::npos);
+  EXPECT_NE(outcome.out.find("VEXOR_LogicalComputerSystem   6 instances in root/cimv2\n"),
+            std::string::npos);
+}
+
 TEST_F(Screens, Version_is_one_line) {
   expect_screen("version.txt", {"--version"});
 }
