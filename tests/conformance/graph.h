@@ -46,6 +46,9 @@ class Quiet {
 class OnFabrics : public testing::TestWithParam<const char*> {
  protected:
   void SetUp() override;
+  // The largest fabric is tested with a part of its objects.
+  static bool is_medium();
+  static std::size_t most_gets_per_class();
 };
 
 }  // namespace conformance
