@@ -1,4 +1,3 @@
-#include <cim_utils/collections.h>
 #include <cim_utils/domain_manager.h>
 #include <cim_utils/fabric_configuration.h>
 #include <cim_utils/formats.h>
@@ -145,24 +144,6 @@ int32_t local_domain(int32_t session, uint32_t vsan) {
   return kNoDomain;
 }
 
-// The interconnect elements of a switch.
-struct Elements {
-  CHeap<fcs_cim_ie_> records;  // null when memory ran out
-  size_t count;
-};
-
-// In the order of their list.
-Elements read_elements(int32_t session, const uint8_t* switch_wwn) {
-  GSList* list = nullptr;
-  fcs_cim_get_ie_list_with_wwn_hex(session, switch_wwn, &list);
-  const size_t count = cim_g_slist_length(list);
-  Elements elements = {allocate<fcs_cim_ie_>(std::max<size_t>(count, 1)), 0};
-  for (const GSList* node = list; node != nullptr && elements.records != nullptr; node = node->next)
-    elements.records[elements.count++] = *static_cast<const fcs_cim_ie_*>(node->data);
-  cim_g_slist_destroy(list, nullptr);
-  return elements;
-}
-
 constexpr uint8_t kPhysicalFc = 1;
 constexpr uint8_t kPortChannel = 4;
 constexpr uint8_t kFcip = 10;
@@ -273,11 +254,12 @@ int32_t fspf_cim_get_all_fspfLinks_for_swwwn_and_if_index(int32_t session,
                                                           const uint8_t* switch_wwn,
                                                           uint32_t if_index, GSList** list) {
   if (switch_wwn == nullptr || list == nullptr) return -1;
-  const Elements elements = read_elements(session, switch_wwn);
-  if (elements.records == nullptr) return -1;
+  OwnedList elements;
+  fcs_cim_get_ie_list_with_wwn_hex(session, switch_wwn, &elements.head);
+  elements.head = reversed(elements.head);  // from the last element to the first
   ListBuilder links(list);
-  for (size_t i = elements.count; i > 0; --i) {
-    const fcs_cim_ie_& element = elements.records[i - 1];
+  for (const GSList* node = elements.head; node != nullptr; node = node->next) {
+    const auto& element = *static_cast<const fcs_cim_ie_*>(node->data);
     fspfLinkEntry link;
     if (fspf_cim_get_fspfLink(session, element.vsan, element.domain, if_index, &link) != 0)
       continue;

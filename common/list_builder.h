@@ -58,6 +58,29 @@ class ListBuilder {
   GSList* last_;
 };
 
+// Turns a list round, without touching its elements. Result: the new head.
+inline GSList* reversed(GSList* list) {
+  GSList* front = nullptr;
+  while (list != nullptr) {
+    GSList* const rest = list->next;
+    list->next = front;
+    front = list;
+    list = rest;
+  }
+  return front;
+}
+
+// A list under construction: freed with its elements unless it is given up.
+class OwnedList {
+ public:
+  OwnedList() = default;
+  OwnedList(const OwnedList&) = delete;
+  OwnedList& operator=(const OwnedList&) = delete;
+  ~OwnedList() { cim_g_slist_destroy(head, nullptr); }
+
+  GSList* head = nullptr;
+};
+
 }  // namespace cim_utils
 
 #endif  // COMMON_LIST_BUILDER_H

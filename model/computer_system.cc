@@ -11,13 +11,12 @@
 
 #include <cstdio>
 
+#include "model/association.h"
+#include "model/port_texts.h"
 #include "model/switch_classes.h"
 
 namespace cim_utils::model {
 namespace {
-
-constexpr char kPhysicalSwitch[] = "VEXOR_PhysicalComputerSystem";
-constexpr char kLogicalSwitch[] = "VEXOR_LogicalComputerSystem";
 
 constexpr uint16_t kEnabled = 2;
 constexpr uint16_t kNotApplicable = 5;
@@ -29,13 +28,8 @@ constexpr uint16_t kDedicatedToSwitching = 5;
 // Deliberate: clients know every switch with the text "0".
 constexpr uint8_t kUnknownDomain = 0;
 
-struct WwnText {
-  explicit WwnText(const wwn_& wwn) { cim_sprintf_wwn(text, &wwn); }
-  char text[17];
-};
-
 bool is_physical(const char* cls) {
-  return cls != nullptr && strcasecmp(cls, kPhysicalSwitch) == 0;
+  return cls != nullptr && strcasecmp(cls, kPhysicalSwitchClass) == 0;
 }
 
 void write_text_array(ObjectWriter& out, const char* name, const char* value) {
@@ -109,7 +103,7 @@ void write_record_state(ObjectWriter& out, const char* cls, int domain) {
 const char* class_of_part(const fcs_cim_ie_* element) {
   const bool in_vsan = element != nullptr && wwn_cim_isVexorWwn(&element->wwn) != 0 &&
                        wwn_cim_get_vsan_index_from_wwn_str(element->wwn.bytes) > 0;
-  return in_vsan ? kLogicalSwitch : kPhysicalSwitch;
+  return in_vsan ? kLogicalSwitchClass : kPhysicalSwitchClass;
 }
 
 Ref own_switch_reference(Builder& b, const char* cls, const char* ns) {
@@ -234,27 +228,26 @@ Object switch_instance(Builder& b, const char* cls, const char* ns,
   return b.close_instance(out);
 }
 
+namespace {
+
+Ends component_ends(Builder& b, const char* ns, const vsanNewEntry_t* vsan,
+                    const mts_dm_sw_conf_* conf, const fcs_cim_ie_* element) {
+  const Ref group = vsan_reference(b, "VEXOR_Vsan", ns, vsan, conf);
+  return {"GroupComponent", group, "PartComponent",
+          switch_reference(b, class_of_part(element), ns, element)};
+}
+
+}  // namespace
+
 Ref component_reference(Builder& b, const char* cls, const char* ns, const vsanNewEntry_t* vsan,
                         const mts_dm_sw_conf_* conf, const fcs_cim_ie_* element) {
-  const Ref group = vsan_reference(b, "VEXOR_Vsan", ns, vsan, conf);
-  const Ref part = switch_reference(b, class_of_part(element), ns, element);
-  auto [out, ref] = b.open_path(cls, ns, BadPath::null);
-  if (out == nullptr) return ref;
-  out->reference("GroupComponent", group);
-  out->reference("PartComponent", part);
-  return b.close_path(out);
+  return association_reference(b, cls, ns, component_ends(b, ns, vsan, conf, element));
 }
 
 Object component_instance(Builder& b, const char* cls, const char* ns, const vsanNewEntry_t* vsan,
                           const mts_dm_sw_conf_* conf, const fcs_cim_ie_* element) {
-  const Ref group = vsan_reference(b, "VEXOR_Vsan", ns, vsan, conf);
-  const Ref part = switch_reference(b, class_of_part(element), ns, element);
-  ObjectWriter* out = b.open_instance(cls, ns);
-  if (out == nullptr) return {};
-  out->reference("GroupComponent", group);
-  out->reference("PartComponent", part);
-  if (b.instances_have_paths()) out->path(component_reference(b, cls, ns, vsan, conf, element));
-  return b.close_instance(out);
+  return association_instance(b, cls, ns,
+                              [&] { return component_ends(b, ns, vsan, conf, element); });
 }
 
 Ref switch_capabilities_reference(Builder& b, const char* cls, const char* ns) {

@@ -8,6 +8,7 @@
 
 #include <cstdio>
 
+#include "model/association.h"
 #include "model/computer_system.h"
 #include "model/module_status.h"
 #include "model/port_texts.h"
@@ -199,34 +200,22 @@ Object logical_module_instance(Builder& b, const char* cls, const char* ns, cons
 
 namespace {
 
-struct SwitchPackageEnds {
-  SwitchPackageEnds(Builder& b, const char* ns, ChassisTexts& texts)
-      : package(physical_package_reference(b, "VEXOR_PhysicalPackage", ns, texts)),
-        system(switch_reference(b, kPhysicalSwitchClass, ns, texts.system_name())) {}
-  Ref package;
-  Ref system;
-};
+Ends switch_package_ends(Builder& b, const char* ns, ChassisTexts& texts) {
+  const Ref package = physical_package_reference(b, "VEXOR_PhysicalPackage", ns, texts);
+  return {"Antecedent", package, "Dependent",
+          switch_reference(b, kPhysicalSwitchClass, ns, texts.system_name())};
+}
 
 }  // namespace
 
 Ref switch_package_reference(Builder& b, const char* cls, const char* ns, ChassisTexts& texts) {
-  const SwitchPackageEnds ends(b, ns, texts);
-  auto [out, ref] = b.open_path(cls, ns, BadPath::null);
-  if (out == nullptr) return ref;
-  out->reference("Antecedent", ends.package);
-  out->reference("Dependent", ends.system);
-  return b.close_path(out);
+  return association_reference(b, cls, ns, switch_package_ends(b, ns, texts));
 }
 
 Object switch_package_instance(Builder& b, const char* instance_class, const char* cls,
                                const char* ns, ChassisTexts& texts) {
-  const SwitchPackageEnds ends(b, ns, texts);
-  ObjectWriter* out = b.open_instance(instance_class, ns);
-  if (out == nullptr) return {};
-  out->reference("Antecedent", ends.package);
-  out->reference("Dependent", ends.system);
-  if (b.instances_have_paths()) out->path(switch_package_reference(b, cls, ns, texts));
-  return b.close_instance(out);
+  return association_instance(
+      b, instance_class, ns, [&] { return switch_package_ends(b, ns, texts); }, cls);
 }
 
 }  // namespace cim_utils::model

@@ -1,5 +1,6 @@
 #include "model/port_statistics.h"
 
+#include "model/association.h"
 #include "model/port_classes.h"
 #include "model/port_texts.h"
 
@@ -54,22 +55,10 @@ void write_frames(ObjectWriter& out, const fcIfAllCounters_t& counters) {
   out.uint64("Class3FramesDiscarded", counters.class3_frames_discarded);
 }
 
-struct Ends {
-  Ref port;
-  Ref statistics;
-};
-
 Ends ends_of(Builder& b, const char* ns, const pm_port_info_& port) {
   const Ref end = port_reference(b, "VEXOR_FCPort", ns, &port);
-  return {end, port_statistics_reference(b, "VEXOR_FCPortStatistics", ns, port.if_index)};
-}
-
-Ref reference_of(Builder& b, const char* cls, const char* ns, const Ends& ends) {
-  auto [out, ref] = b.open_path(cls, ns, BadPath::null);
-  if (out == nullptr) return ref;
-  out->reference("ManagedElement", ends.port);
-  out->reference("Stats", ends.statistics);
-  return b.close_path(out);
+  return {"ManagedElement", end, "Stats",
+          port_statistics_reference(b, "VEXOR_FCPortStatistics", ns, port.if_index)};
 }
 
 }  // namespace
@@ -101,19 +90,14 @@ Object port_statistics_instance(Builder& b, const char* cls, const char* ns,
 Ref port_statistical_data_reference(Builder& b, const char* cls, const char* ns,
                                     const pm_port_info_* port) {
   if (port == nullptr) return {};
-  return reference_of(b, cls, ns, ends_of(b, ns, *port));
+  return association_reference(b, cls, ns, ends_of(b, ns, *port));
 }
 
 Object port_statistical_data_instance(Builder& b, const char* cls, const char* ns,
                                       const pm_port_info_* port) {
   if (port == nullptr) return {};
   const Ends ends = ends_of(b, ns, *port);
-  ObjectWriter* out = b.open_instance(cls, ns);
-  if (out == nullptr) return {};
-  out->reference("ManagedElement", ends.port);
-  out->reference("Stats", ends.statistics);
-  if (b.instances_have_paths()) out->path(reference_of(b, cls, ns, ends));
-  return b.close_instance(out);
+  return association_instance(b, cls, ns, [&] { return ends; });
 }
 
 }  // namespace cim_utils::model

@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <cstring>
 
+#include "model/association.h"
+
 namespace cim_utils::model {
 namespace {
 
@@ -141,27 +143,25 @@ Object vsan_instance(Builder& b, const char* cls, const char* ns, const vsanNewE
   return b.close_instance(out);
 }
 
+namespace {
+
+Ends contained_domain_ends(Builder& b, const char* ns, const vsanNewEntry_t* vsan,
+                           const mts_dm_sw_conf_* conf) {
+  const Ref fabric = fabric_reference(b, "VEXOR_AdminDomain", ns);
+  return {"GroupComponent", fabric, "PartComponent",
+          vsan_reference(b, "VEXOR_Vsan", ns, vsan, conf)};
+}
+
+}  // namespace
+
 Ref contained_domain_reference(Builder& b, const char* cls, const char* ns,
                                const vsanNewEntry_t* vsan, const mts_dm_sw_conf_* conf) {
-  const Ref fabric = fabric_reference(b, "VEXOR_AdminDomain", ns);
-  const Ref part = vsan_reference(b, "VEXOR_Vsan", ns, vsan, conf);
-  auto [out, ref] = b.open_path(cls, ns, BadPath::null);
-  if (out == nullptr) return ref;
-  out->reference("GroupComponent", fabric);
-  out->reference("PartComponent", part);
-  return b.close_path(out);
+  return association_reference(b, cls, ns, contained_domain_ends(b, ns, vsan, conf));
 }
 
 Object contained_domain_instance(Builder& b, const char* cls, const char* ns,
                                  const vsanNewEntry_t* vsan, const mts_dm_sw_conf_* conf) {
-  const Ref fabric = fabric_reference(b, "VEXOR_AdminDomain", ns);
-  const Ref part = vsan_reference(b, "VEXOR_Vsan", ns, vsan, conf);
-  ObjectWriter* out = b.open_instance(cls, ns);
-  if (out == nullptr) return {};
-  out->reference("GroupComponent", fabric);
-  out->reference("PartComponent", part);
-  if (b.instances_have_paths()) out->path(contained_domain_reference(b, cls, ns, vsan, conf));
-  return b.close_instance(out);
+  return association_instance(b, cls, ns, [&] { return contained_domain_ends(b, ns, vsan, conf); });
 }
 
 Ref connectivity_collection_reference(Builder& b, const char* cls, const char* ns, int number) {

@@ -6,6 +6,7 @@
 
 #include <cstdio>
 
+#include "model/association.h"
 #include "model/switch_classes.h"
 
 namespace cim_utils::model {
@@ -40,38 +41,6 @@ Ref instance_id_reference(Builder& b, const char* cls, const char* ns, const cha
   if (out == nullptr) return ref;
   out->text("InstanceID", instance_id);
   return b.close_path(out);
-}
-
-// The roles and the ends of an association.
-struct Ends {
-  const char* first_role;
-  Ref first;
-  const char* second_role;
-  Ref second;
-
-  void write(ObjectWriter& out) const {
-    out.reference(first_role, first);
-    out.reference(second_role, second);
-  }
-};
-
-// Ends are made before the association's own path.
-Ref association_reference(Builder& b, const char* cls, const char* ns, const Ends& ends) {
-  auto [out, ref] = b.open_path(cls, ns, BadPath::null);
-  if (out == nullptr) return ref;
-  ends.write(*out);
-  return b.close_path(out);
-}
-
-// `make_ends` makes the ends once more for the instance's path, in the face that has one.
-template <class MakeEnds>
-Object association_instance(Builder& b, const char* cls, const char* ns, MakeEnds make_ends) {
-  const Ends ends = make_ends();
-  ObjectWriter* out = b.open_instance(cls, ns);
-  if (out == nullptr) return {};
-  ends.write(*out);
-  if (b.instances_have_paths()) out->path(association_reference(b, cls, ns, make_ends()));
-  return b.close_instance(out);
 }
 
 }  // namespace

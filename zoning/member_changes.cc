@@ -1,5 +1,4 @@
 // Members: added to zones and aliases, and removed from them.
-#include <cim_utils/collections.h>
 #include <cim_utils/formats.h>
 #include <cim_utils/zoning_changes.h>
 #include <cim_utils/zoning_identifiers.h>
@@ -10,6 +9,7 @@
 #include <cstring>
 
 #include "common/c_heap.h"
+#include "common/list_builder.h"
 #include "zoning/member_values.h"
 #include "zoning/trace.h"
 #include "zoning/zone_server.h"
@@ -113,41 +113,13 @@ struct Member {
   uint8_t active = 0;
 };
 
-// The entries of a list, released with it.
-class Parents {
- public:
-  Parents() = default;
-  Parents(const Parents&) = delete;
-  Parents& operator=(const Parents&) = delete;
-  ~Parents() { cim_g_slist_destroy(list_, nullptr); }
-
-  GSList** out() { return &list_; }
-
-  // Turns the list round, without touching its entries.
-  void reverse() {
-    GSList* reversed = nullptr;
-    while (list_ != nullptr) {
-      GSList* const rest = list_->next;
-      list_->next = reversed;
-      reversed = list_;
-      list_ = rest;
-    }
-    list_ = reversed;
-  }
-
-  const GSList* first() const { return list_; }
-
- private:
-  GSList* list_ = nullptr;
-};
-
 // Removes the member from every parent, the last one first. `failure` is the format of the line
 // about a parent that keeps it.
 template <typename Entry>
-void remove_from(int32_t q, const Member& member, zs_object_kind kind, Parents& parents,
+void remove_from(int32_t q, const Member& member, zs_object_kind kind, OwnedList& parents,
                  const char* failure) {
-  parents.reverse();
-  for (const GSList* node = parents.first(); node != nullptr; node = node->next) {
+  parents.head = reversed(parents.head);
+  for (const GSList* node = parents.head; node != nullptr; node = node->next) {
     Entry entry;
     std::memcpy(&entry, node->data, sizeof entry);
     int32_t error = 0;
@@ -207,16 +179,16 @@ int32_t zs_cim_remove_zone_member_from_all_parents(int32_t q, const char* member
     return -1;
   }
 
-  Parents zones;
+  OwnedList zones;
   if (zs_cim_get_zone_member_zone_parents(q, member.vsan_id, kFullDatabase, member_instance_id,
-                                          zones.out()) != 0) {
+                                          &zones.head) != 0) {
     return -1;
   }
   remove_from<zs_zone_entry_>(q, member, ZS_OBJECT_ZONE, zones,
                               "Fail to remove zone member %s from zone %d, Error:%d\n");
-  Parents aliases;
+  OwnedList aliases;
   if (zs_cim_get_zone_member_zone_alias_parents(q, member.vsan_id, kFullDatabase,
-                                                member_instance_id, aliases.out()) != 0) {
+                                                member_instance_id, &aliases.head) != 0) {
     return -1;
   }
   remove_from<zs_alias_entry_>(q, member, ZS_OBJECT_ALIAS, aliases,

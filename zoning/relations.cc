@@ -95,25 +95,14 @@ int32_t link_parents(int32_t q, const char* instance_id, uint8_t (Entry::*bits)[
 
 // ---- Parents of members
 
-// A list under construction: freed with its elements unless it is given up.
-class OwnedList {
- public:
-  OwnedList() = default;
-  OwnedList(const OwnedList&) = delete;
-  OwnedList& operator=(const OwnedList&) = delete;
-  ~OwnedList() { cim_g_slist_destroy(head, nullptr); }
-
-  // Moves the elements to the end of the caller's list.
-  void append_to(GSList** list) {
-    ListBuilder there(list);
-    for (const GSList* node = head; node != nullptr; node = node->next)
-      there.append(node->data);
-    g_slist_free(head);
-    head = nullptr;
-  }
-
-  GSList* head = nullptr;
-};
+// Moves the elements of a list to the end of the caller's.
+void move_elements(OwnedList* from, GSList** list) {
+  ListBuilder there(list);
+  for (const GSList* node = from->head; node != nullptr; node = node->next)
+    there.append(node->data);
+  g_slist_free(from->head);
+  from->head = nullptr;
+}
 
 // The parents of which kind are searched, and for which member.
 struct MemberSearch {
@@ -162,19 +151,8 @@ int32_t get_raw_parents(const MemberSearch& search, GSList** list) {
   if (search.instance_id == nullptr || list == nullptr) return -1;
   OwnedList parents;
   if (collect_parents<Entry>(search, &parents.head) != 0) return -1;
-  parents.append_to(list);
+  move_elements(&parents, list);
   return 0;
-}
-
-GSList* reversed(GSList* list) {
-  GSList* front = nullptr;
-  while (list != nullptr) {
-    GSList* const rest = list->next;
-    list->next = front;
-    front = list;
-    list = rest;
-  }
-  return front;
 }
 
 template <typename Entry, typename Record>
@@ -201,7 +179,7 @@ int32_t get_parent_records(int32_t q, const char* instance_id, zs_member_parent_
     std::free(node->data);
     node->data = record;
   }
-  parents.append_to(list);
+  move_elements(&parents, list);
   return 0;
 }
 
