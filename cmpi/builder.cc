@@ -166,8 +166,9 @@ void CmpiBuilder::Writer::texts(const char* name, std::span<const char* const> v
 }
 
 void CmpiBuilder::Writer::reference(const char* role, model::Ref end) {
-  if (end.object == nullptr) return;
-  const CMPIValue value = reference_value(static_cast<const CMPIObjectPath*>(end.object));
+  const auto* const path = static_cast<const CMPIObjectPath*>(end.object);
+  if (!usable(path)) return;
+  const CMPIValue value = reference_value(path);
   set(role, &value, CMPI_ref);
 }
 

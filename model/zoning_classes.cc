@@ -164,7 +164,7 @@ struct ZoneServiceName {
 }  // namespace
 
 Ref zone_service_reference(Builder& b, const char* cls, const char* ns, int vsan) {
-  auto [out, ref] = b.open_path(cls, ns, BadPath::null);
+  auto [out, ref] = b.open_path(cls, ns, BadPath::say_and_as_it_came);
   if (out == nullptr) return ref;
   ZoneServiceName(b.queue(), vsan).write(*out, cls);
   return b.close_path(out);
@@ -188,11 +188,7 @@ Object zone_service_instance(Builder& b, const char* cls, const char* ns, int vs
 
 Ref zone_capabilities_reference(Builder& b, const char* cls, const char* ns,
                                 const char* instance_id) {
-  if (instance_id == nullptr) return {};
-  auto [out, ref] = b.open_path(cls, ns, BadPath::null);
-  if (out == nullptr) return ref;
-  out->text("InstanceID", instance_id);
-  return b.close_path(out);
+  return instance_id_reference(b, cls, ns, instance_id);
 }
 
 Object zone_capabilities_instance(Builder& b, const char* cls, const char* ns,

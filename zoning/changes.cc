@@ -73,8 +73,8 @@ using namespace cim_utils;
 int32_t zs_cim_create_zoning_object(int32_t q, int32_t operation, uint32_t vsan_id,
                                     zs_object_kind kind, const char* name, void** record,
                                     int32_t* error) {
-  if (name == nullptr || record == nullptr) return fail_with(error, -1);
-  *record = nullptr;
+  if (name == nullptr || (record == nullptr && operation != 0)) return fail_with(error, -1);
+  if (record != nullptr) *record = nullptr;
   zs_context_ context{};
   int32_t result = zs_cmi_create_zoning_object(q, operation, vsan_id, kind, -1, name, kEmptyText,
                                                kEmptyText, &context);
@@ -82,6 +82,7 @@ int32_t zs_cim_create_zoning_object(int32_t q, int32_t operation, uint32_t vsan_
   if (operation == 0) return 0;
 
   uint32_t id = 0;
+  context = {};  // the zone server may have written there
   result = zs_cmi_get_id_for_name(q, vsan_id, &context, 0, kFullDatabase, kind, name, &id);
   if (result != 0) return fail_with(error, result);
   // Should this fail, the object stays: others may use it from now on.
@@ -92,8 +93,8 @@ int32_t zs_cim_create_zoning_object(int32_t q, int32_t operation, uint32_t vsan_
 int32_t zs_cim_create_zoning_object_with_id(int32_t q, int32_t operation, uint32_t vsan_id,
                                             zs_object_kind kind, uint32_t id, void** record,
                                             int32_t* error) {
-  if (record == nullptr) return fail_with(error, -1);
-  *record = nullptr;
+  if (record == nullptr && operation != 0) return fail_with(error, -1);
+  if (record != nullptr) *record = nullptr;
   ObjectName name;
   const int32_t result = find_name(q, vsan_id, kFullDatabase, kind, id, &name);
   if (result != 0) return fail_with(error, result);

@@ -2,8 +2,9 @@
  * its capabilities, and what ties them together.
  *
  * The conventions of cmpi_builders.h apply. Zoning objects have one key, "InstanceID": the instance
- * id text of their record. A path of one that the broker cannot make is said on standard output and
- * returned as it came.
+ * id text of their record. A path of one, of a zone service or of capabilities that the broker
+ * cannot make is said on standard output and returned as it came; an association leaves such an end
+ * out.
  */
 #ifndef CIM_UTILS_CMPI_ZONING_H
 #define CIM_UTILS_CMPI_ZONING_H

@@ -24,8 +24,9 @@ extern "C" {
 
 /* Creates or deletes the object of that kind and name. After a creation the new object is read back
  * into *record, an array of one zs_cim_zone_, zs_cim_zone_set_ or zs_cim_alias_ by kind, which the
- * caller frees; after a deletion, and on failure, *record is null. A failure to read it back is a
- * failure although the object exists from then on. */
+ * caller frees; after a deletion, and on failure, *record is null. A deletion does without a place
+ * for it: record may be null. A failure to read it back is a failure although the object exists
+ * from then on. */
 CIM_UTILS_EXPORT int32_t zs_cim_create_zoning_object(int32_t q, int32_t operation, uint32_t vsan_id,
                                                      enum zs_object_kind kind, const char* name,
                                                      void** record, int32_t* error);

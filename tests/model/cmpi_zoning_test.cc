@@ -200,6 +200,26 @@ TEST_F(CmpiZoning, AZoningObjectsPathThatCannotBeMadeIsSaidAndReturnedAsItCame) 
   }
 }
 
+TEST_F(CmpiZoning, AServicesOrCapabilitiesPathThatCannotBeMadeIsSaidAndReturnedAsItCame) {
+  const Script script;  // nobody is asked for the keys
+  for (const bool service : {true, false}) {
+    const auto fill = [&] {
+      return service ? service_path()
+                     : zone_cap_fill_reference("VEXOR_ZoneCapabilities", kNamespace, "10", broker_);
+    };
+    out_.clear();
+    broker_.fail_nth_path(1, Failure::null_object);
+    EXPECT_EQ(fill(), nullptr);
+    EXPECT_TRUE(out_.out().ends_with("ObjectPath is null\n\n\n")) << out_.out();
+    out_.clear();
+    broker_.fail_nth_path(1, Failure::null_handle);
+    CMPIObjectPath* path = fill();
+    ASSERT_NE(path, nullptr);
+    EXPECT_EQ(path->hdl, nullptr);
+    EXPECT_TRUE(out_.out().ends_with("ObjectPath is null\n\n\n")) << out_.out();
+  }
+}
+
 TEST_F(CmpiZoning, AZoneServiceIsNamedByItsVsanAndItsSystemByTheVsansWwn) {
   Script script;
   expect_service_reads(script);
@@ -555,10 +575,6 @@ TEST_F(CmpiZoning, AnAssociationsPathThatTheBrokerDoesNotMakeIsNone) {
       EXPECT_EQ(fill(broker), nullptr);
     }
   }
-  broker_.fail_nth_path(1, Failure::null_handle);
-  EXPECT_EQ(service_path(), nullptr);
-  broker_.fail_nth_path(1, Failure::null_handle);
-  EXPECT_EQ(zone_cap_fill_reference("C", kNamespace, "10", broker_), nullptr);
 }
 
 TEST_F(CmpiZoning, NoRecordAndNoIdMakeNoObject) {
@@ -585,6 +601,22 @@ TEST_F(CmpiZoning, AnAssociationLeavesOutAnEndWithoutARecord) {
   CMPIInstance* instance =
       esd_build_instance_zoneZoneMember("C", kNamespace, &zone_, nullptr, broker_);
   EXPECT_EQ(broker_.property_names(instance), std::vector<std::string>{"ManagedElement"});
+}
+
+TEST_F(CmpiZoning, AnAssociationLeavesOutAnEndWhosePathCannotBeMade) {
+  broker_.fail_nth_path(1, Failure::null_handle);
+  EXPECT_EQ(broker_.key_names(
+                zmoc_fill_reference_zoneSetZone("C", kNamespace, "10_7_1", "10_12_1", broker_)),
+            std::vector<std::string>{"Member"});
+  broker_.fail_nth_path(2, Failure::null_object);
+  EXPECT_EQ(broker_.property_names(
+                zmoc_build_instance_zoneSetZone("C", kNamespace, "10_7_1", "10_12_1", broker_)),
+            std::vector<std::string>{"Collection"});
+  const Script script;  // the service is not asked for
+  broker_.fail_nth_path(2, Failure::null_handle);
+  EXPECT_EQ(
+      broker_.key_names(hosted_service_fill_reference("C", kNamespace, &vsan_, &conf_, broker_)),
+      std::vector<std::string>{"Antecedent"});
 }
 
 TEST_F(CmpiZoning, AnAssociationWithoutAnyRecordHasNoEnds) {

@@ -158,6 +158,12 @@ ZoneChange::ZoneChange(const char* function, uint32_t vsan) : Line(function) {
   call()->answer_required = true;
 }
 
+ZoneChange& ZoneChange::uses_its_context() {
+  HeapLedger::Pause pause;
+  answer().numbers = {1};
+  return *this;
+}
+
 ZoneChange create_zoning_object(int32_t operation, uint32_t vsan, int32_t kind, const char* name) {
   return ZoneChange("zs_cmi_create_zoning_object", vsan)
       .operation(operation)
@@ -340,13 +346,15 @@ int32_t read_all(const char* function, int32_t q, uint32_t vsan, const void* con
 
 // A change: the arguments of the one function that are not those of all.
 int32_t change(Call call, int32_t q, uint32_t vsan, const char* empty1, const char* empty2,
-               const void* context) {
+               void* context) {
   call.arguments.push_back(number_argument("q", q));
   call.arguments.push_back(number_argument("vsan", vsan));
   call.arguments.push_back(text_argument("empty1", empty1));
   call.arguments.push_back(text_argument("empty2", empty2));
   call.arguments.push_back(context_argument(context));
-  return static_cast<int32_t>(answer_to(call).result);
+  const Answer answer = answer_to(call);
+  if (!answer.numbers.empty()) memset(context, 0xa7, kContextSize);
+  return static_cast<int32_t>(answer.result);
 }
 
 // The member buffer: as long as the heap block that it is; else as long as is expected.

@@ -107,6 +107,8 @@ class ZoneReadResponder {
 class ZoneChange : public Line<ZoneChange> {
  public:
   ZoneChange(const char* function, uint32_t vsan);
+  // The context, which the call may write to, is not zero any more afterwards.
+  ZoneChange& uses_its_context();
   ZoneChange& operation(int32_t operation) { return number("operation", operation); }
   ZoneChange& says(const char* argument, const char* text) { return this->text(argument, text); }
   ZoneChange& says(const char* argument, int32_t n) { return number(argument, n); }

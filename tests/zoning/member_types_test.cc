@@ -106,8 +106,12 @@ TEST_F(MemberTypes, TheMappingOfIpv6AndUnsizedTextTellsItsPlace) {
             "Function get_cim_member_type_from_member_type Line N \n"
             "Function get_cim_member_type_from_member_type Line N \n");
   uint8_t zs_type = 0;
+  get_member_type_from_cim_member_type(ZS_CIM_MEMBER_IPV4, &zs_type);
+  EXPECT_EQ(printed(), "");
   get_member_type_from_cim_member_type(ZS_CIM_MEMBER_IPV6, &zs_type);
+  get_member_type_from_cim_member_type(ZS_CIM_MEMBER_UNSIZED_TEXT, &zs_type);
   EXPECT_EQ(without_line_numbers(printed()),
+            "Function get_member_type_from_cim_member_type Line N \n"
             "Function get_member_type_from_cim_member_type Line N \n");
 }
 

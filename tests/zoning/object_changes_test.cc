@@ -120,6 +120,27 @@ TEST_F(ZoningObjects, ADeletionEndsWithTheZoneServersStep) {
   EXPECT_EQ(record_, nullptr);
 }
 
+TEST_F(ZoningObjects, ADeletionNeedsNoPlaceForARecord) {
+  Script script;
+  script.expect(create_zoning_object(0, 5, 1, "set-a")).returns(0);
+  script.expect(query_name_for_id(5, 2, 9)).gives("alias-a");
+  script.expect(create_zoning_object(0, 5, 2, "alias-a")).returns(0x40200016);
+  EXPECT_EQ(outcome_of(zs_cim_create_zoning_object, 0, 5u, ZS_OBJECT_ZONE_SET, "set-a", nullptr),
+            kDone);
+  EXPECT_EQ(outcome_of(zs_cim_create_zoning_object_with_id, 0, 5u, ZS_OBJECT_ALIAS, 9u, nullptr),
+            (Outcome{-1, 0x40200016}));
+}
+
+// Every call gets zeros, also where the one in front of it wrote into its own.
+TEST_F(ZoningObjects, EveryCallOfACreationHasAContextOfZeros) {
+  Script script;
+  script.expect(create_zoning_object(1, 5, 1, "set-a")).uses_its_context().returns(0);
+  script.expect(query_id_for_name(5, 1, "set-a")).gives(3);
+  script.expect(read_zone_set(5, 0, 3)).gives({zone_set_entry(3, "set-a")});
+  EXPECT_EQ(create(1, ZS_OBJECT_ZONE_SET, "set-a"), kDone);
+  ledger_.release_by_caller(record_);
+}
+
 TEST_F(ZoningObjects, ARefusedCreationTellsTheZoneServersResult) {
   Script script;
   script.expect(create_zoning_object(1, 5, 0, "zone-a")).returns(0x40200011);
