@@ -3,12 +3,12 @@
 #include <cim_utils/zoning_queries.h>
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <cstdlib>
 
 #include "tests/support/double_zone_server.h"
 #include "tests/zoning_queries/chains.h"
 #include "tests/zoning_queries/entries.h"
+#include "tests/zoning_queries/traces_aside.h"
 #include "zoning/chain.h"
 
 using namespace test_support;
@@ -74,21 +74,6 @@ ZoneReadResponse answer(const ZoneReadRequest& request) {
     return {0, static_cast<int32_t>(kAliases), aliases};
   return {0, 1, zone_set()};
 }
-
-// Traces would be megabytes.
-class TracesAside {
- public:
-  TracesAside() : real_(stdout) { stdout = std::fopen("/dev/null", "w"); }
-  TracesAside(const TracesAside&) = delete;
-  TracesAside& operator=(const TracesAside&) = delete;
-  ~TracesAside() {
-    std::fclose(stdout);
-    stdout = real_;
-  }
-
- private:
-  FILE* real_;
-};
 
 class LargestVsan : public testing::Test {
  protected:
