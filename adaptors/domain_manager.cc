@@ -4,6 +4,7 @@
 #include <cim_utils/wwn_rules.h>
 #include <strings.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 
@@ -151,13 +152,15 @@ int32_t dm_cim_is_local_port_wwn_hex(int32_t q, const char* text) {
 
 int32_t dm_cim_get_domainId(int32_t q, uint32_t vsan, uint8_t* domain) {
   constexpr int32_t kNoList = 255;
+  // One domain for each VSAN that a switch can have: a greater count is a broken one.
+  constexpr int32_t kMostEntries = 4096;
   Message list(q);
-  if (dm_get_dom_ids_in_sw(q, 0, list.out()) != 0) {
+  if (dm_get_dom_ids_in_sw(q, 0, list.out()) != 0 || list.get() == nullptr) {
     std::printf("Failed to get domain-id from DM. Ignoring Domain Id.");
     return kNoList;
   }
   uint8_t found = 0;
-  const int32_t entries = dm_parse_get_num_entries(list.get());
+  const int32_t entries = std::min(dm_parse_get_num_entries(list.get()), kMostEntries);
   // Every entry is looked at: the last one of the VSAN counts.
   for (int32_t i = 0; i < entries; ++i) {
     if (dm_parse_get_vsan_index_in_vsan(list.get(), i) != vsan) continue;

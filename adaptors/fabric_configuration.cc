@@ -87,7 +87,8 @@ int32_t fcs_get_data(int32_t session, uint32_t selector, uint32_t operation, con
                      int32_t length, void* out) {
   Reply reply;
   if (ask_for_data(session, selector, operation, data, length, &reply) != 0) return -1;
-  const auto bytes = reply.bytes();
+  // No byte more than reported: the caller has made room for that, not for the block behind it.
+  const auto bytes = reply.reported_bytes();
   if (out != nullptr) std::memcpy(out, bytes.data(), bytes.size());
   return 0;
 }

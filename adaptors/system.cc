@@ -4,6 +4,7 @@
 #include <malloc.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <cstddef>
 #include <cstdio>
@@ -60,7 +61,9 @@ class PeerAnswers {
   }
   int32_t code() const { return code_; }
   int32_t count() const { return std::min(count_, kMostPeers); }
+  // Null for an answer that is to be skipped.
   const uint8_t* next() {
+    if (iterator_ == nullptr) return nullptr;
     return static_cast<const uint8_t*>(kfs_iter_get_next_response(iterator_));
   }
 
@@ -77,8 +80,8 @@ struct SwitchAddress {
   static constexpr size_t kName = 364;
 };
 
-// The domain whose switch name was found last.
-int32_t last_domain;
+// The domain whose switch name was found last. Nothing reads it: it is for a debugger.
+std::atomic<int32_t> last_domain;
 
 // The first switch of the list that owns `domain`; its name goes to `name`.
 void find_switch_name(std::span<const uint8_t> list, uint8_t domain, char* name) {
@@ -254,7 +257,8 @@ int32_t get_remote_switchname(uint8_t domain, char* name) {
   }
   // A receive that fails shows as a reply that cannot be parsed.
   Message reply(mts_q);
-  receive(mts_q, mts_rr_token_get(request.get()), kTimeoutSeconds, &reply);
+  if (request.get() != nullptr)
+    receive(mts_q, mts_rr_token_get(request.get()), kTimeoutSeconds, &reply);
 
   int32_t status = 0;
   int32_t count = 0;

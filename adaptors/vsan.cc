@@ -1,6 +1,7 @@
 #include <cim_utils/formats.h>
 #include <cim_utils/vsan.h>
 
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -23,8 +24,8 @@ constexpr wire::Span kVsanEntry[] = {{0, 4, 4}, {20, 4, 4}};
 // More VSANs than a switch has: a greater count is a broken one.
 constexpr int32_t kMostVsans = 4096;
 
-// Status of the last count query.
-int32_t last_count_status;
+// Status of the last count query. Nothing reads it: it is for a debugger.
+std::atomic<int32_t> last_count_status;
 
 constexpr uint32_t kAdminActive = 1;
 constexpr uint32_t kAdminSuspended = 2;
@@ -88,11 +89,12 @@ int32_t vsan_cim_get_vsanEntry_with_memory_allocation(int32_t q, int32_t exact,
 int32_t vsan_cim_get_vsan_num(int32_t q, int32_t* count, int32_t which) {
   if (count == nullptr) return -1;
   Reply reply;
-  last_count_status =
+  const int32_t status =
       exchange({static_cast<uint32_t>(which != 0 ? MTS_OPC_VSAN_COUNT : MTS_OPC_VSAN_OTHER_COUNT),
                 MTS_OPERATION_GET, MTS_SAP_VSAN_MANAGER, nullptr, sizeof(uint32_t)},
                q, &reply);
-  if (last_count_status != 0 || !reply.holds(sizeof(uint32_t))) return -1;
+  last_count_status = status;
+  if (status != 0 || !reply.holds(sizeof(uint32_t))) return -1;
   *count = static_cast<int32_t>(wire::read32(reply.bytes().data()));
   return 0;
 }

@@ -23,7 +23,8 @@ int32_t exchange(const SynchronousRequest& request, int32_t q, Reply* reply) {
   const size_t block = malloc_usable_size(data);
   const bool told = length != request.length || request.preset == Preset::whole_reply;
   reply->data_ = data;
-  reply->size_ = told ? std::min(block, static_cast<size_t>(std::max(length, 0))) : block;
+  reply->reported_ = std::min(block, static_cast<size_t>(std::max(length, 0)));
+  reply->size_ = told ? reply->reported_ : block;
   return status;
 }
 

@@ -33,6 +33,10 @@ class Reply {
   // The bytes that may be read, whatever length the service claims. Empty without a reply.
   std::span<const std::byte> bytes() const { return {static_cast<const std::byte*>(data_), size_}; }
 
+  // As many of them as the length says that the call left behind, changed or not: for functions
+  // that hand the reply on as it was reported.
+  std::span<const std::byte> reported_bytes() const { return bytes().first(reported_); }
+
   // Whether `size` bytes can be read from `offset`. A record that does not fit counts as absent.
   bool holds(size_t size, size_t offset = 0) const {
     return offset <= size_ && size <= size_ - offset;
@@ -49,6 +53,7 @@ class Reply {
   friend int32_t exchange(const struct SynchronousRequest& request, int32_t q, Reply* reply);
   void* data_ = nullptr;
   size_t size_ = 0;
+  size_t reported_ = 0;  // never more than size_
 };
 
 struct SynchronousRequest {

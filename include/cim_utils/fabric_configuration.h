@@ -38,8 +38,8 @@ struct fcs_giel_entry_ {
 typedef struct fcs_giel_entry_ fcs_giel_entry_;
 
 /* One exchange with the server: sends the selector and `length` bytes of data, and copies the whole
- * reply, of whatever length it reports, to out; the caller provides for the longest reply of the
- * request. Result: 0, or -1 for a failure or no reply. */
+ * reply, of whatever length is reported for it, to out; the caller provides for the longest reply
+ * of the request. Result: 0, or -1 for a failure or no reply. */
 CIM_UTILS_EXPORT int32_t fcs_get_data(int32_t session, uint32_t selector, uint32_t operation,
                                       const void* data, int32_t length, void* out);
 

@@ -53,6 +53,28 @@ TEST_F(DomainIdOfVsan, IsLeftAloneWhenTheListCannotBeRead) {
             "Failed to get domain-id from DM. Ignoring Domain Id.");
 }
 
+TEST_F(DomainIdOfVsan, IsLeftAloneWithoutAList) {
+  Script script;
+  script.expect(query_domain_ids()).returns(0);
+  EXPECT_EQ(dm_cim_get_domainId(kQueue, 5, &domain_), 255);
+  EXPECT_EQ(domain_, 77);
+  EXPECT_EQ(out_.out(), "Failed to get domain-id from DM. Ignoring Domain Id.");
+}
+
+TEST_F(DomainIdOfVsan, IsFoundInAListThatAnnouncesMoreThanAnySwitchHas) {
+  Script script;
+  script.expect(query_domain_ids()).gives(domain_list({{1, 10}, {5, 20}}, 0x7fffffff));
+  EXPECT_EQ(dm_cim_get_domainId(kQueue, 5, &domain_), 0);
+  EXPECT_EQ(domain_, 20);
+}
+
+TEST_F(DomainIdOfVsan, IsZeroInAListThatAnnouncesLessThanNothing) {
+  Script script;
+  script.expect(query_domain_ids()).gives(domain_list({{5, 20}}, -1));
+  EXPECT_EQ(dm_cim_get_domainId(kQueue, 5, &domain_), 0);
+  EXPECT_EQ(domain_, 0);
+}
+
 TEST_F(DomainIdOfVsan, NeedsNoPlaceForItsResult) {
   Script script;
   script.expect(query_domain_ids()).gives(domain_list({{5, 10}}));

@@ -105,6 +105,15 @@ TEST_F(DomainManager, AnyExactButZeroIsAGet) {
   expect_configuration(conf_);
 }
 
+TEST_F(DomainManager, TheRequestCarriesTheWholeRecordInWireOrder) {
+  Script script;
+  script.expect(get(264).sap(14).any_request()).replies(configuration_reply());
+  script.expect(get_next(264).sap(14).sends(configuration_reply())).replies(configuration_reply());
+  EXPECT_EQ(dm_cim_get_dmEntry(kQueue, 10, 1, &conf_), 0);
+  expect_configuration(conf_);
+  EXPECT_EQ(dm_cim_get_dmEntry(kQueue, 10, 0, &conf_), 0);
+}
+
 TEST_F(DomainManager, AFailedConfigurationReadSaysSoAndLeavesTheRecordInWireOrder) {
   Script script;
   script.expect(get(264).sap(14).any_request()).status(17);
@@ -250,6 +259,15 @@ TEST_F(DomainManager, APortWwnOfAnUnknownMakersDomainFailsAndSaysSo) {
   wwn_ wwn{};
   EXPECT_EQ(dm_cim_get_port_wwn_by_domain_id(kQueue, 10, 0x63, 5, &wwn), -1);
   EXPECT_EQ(out_.out(), "dm get port 5 wwn fail \n");
+}
+
+TEST_F(DomainManager, APortWwnWithoutMemorySaysSoAndAsksNothing) {
+  Script script;
+  ledger_.fail_nth(1, Heap::c);
+  wwn_ wwn{};
+  EXPECT_EQ(dm_cim_get_port_wwn_by_domain_id(kQueue, 10, 0x63, 5, &wwn), -1);
+  EXPECT_EQ(out_.out(), " Memory failure in retrieving dm info ");
+  EXPECT_EQ(script.calls(), 0u);
 }
 
 TEST_F(DomainManager, APortWwnOfADomainWithoutAnOwnerFailsSilently) {
@@ -405,6 +423,15 @@ TEST_F(DomainManager, ARefusedChangeIsPassedOnAndCalledAPriority) {
   EXPECT_EQ(out_.out(),
             "dm_cim_set_dmEntry Start -  pp is 0, domId is 5, domTpe is 1, setType is 2\n"
             "set dm priority -  FAIL ret code is 17\n");
+}
+
+TEST_F(DomainManager, AChangeThatTimesOutIsPassedOn) {
+  Script script;
+  script.expect(set(264).sap(14).any_request().length(1152)).times_out();
+  EXPECT_EQ(dm_cim_set_DMEntry(kQueue, 10, 2, 0, 0, 1), -1);
+  EXPECT_EQ(out_.out(),
+            "dm_cim_set_dmEntry Start -  pp is 2, domId is 0, domTpe is 0, setType is 1\n"
+            "set dm priority -  FAIL ret code is -1\n");
 }
 
 }  // namespace

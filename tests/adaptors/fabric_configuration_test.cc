@@ -77,6 +77,27 @@ TEST_F(FabricConfiguration, OneExchangeSendsSelectorAndDataAndGivesTheWholeReply
   EXPECT_EQ(Bytes(out, out + 6), hex("01 02 03 04 05 77"));
 }
 
+TEST_F(FabricConfiguration, OneExchangeGivesNoByteBeyondTheReportedLength) {
+  // The length still says 9, that of the request: nothing else is reported for the reply.
+  Script script;
+  script.expect(get_next(1402).sap(20).sends(hex("00 00 00 14 de ad be ef 01")).last(0))
+      .replies(hex("01 02 03 04 05 06 07 08 09 0a 0b 0c 0d 0e 0f 10"))
+      .length_left_alone();
+  Bytes out(16, 0x77);
+  EXPECT_EQ(fcs_get_data(kQueue, 20, 2, hex("de ad be ef 01").data(), 5, out.data()), 0);
+  EXPECT_EQ(out, hex("01 02 03 04 05 06 07 08 09 77 77 77 77 77 77 77"));
+}
+
+TEST_F(FabricConfiguration, OneExchangeReadsNoByteBehindTheReply) {
+  Script script;
+  script.expect(get_next(1402).sap(20).sends(hex("00 00 00 14 de ad be ef 01")).last(0))
+      .replies(hex("01 02 03"))
+      .length_left_alone();
+  Bytes out(9, 0x77);
+  EXPECT_EQ(fcs_get_data(kQueue, 20, 2, hex("de ad be ef 01").data(), 5, out.data()), 0);
+  EXPECT_EQ(out, hex("01 02 03 77 77 77 77 77 77"));
+}
+
 TEST_F(FabricConfiguration, AFailedExchangeIsAFailure) {
   Script script;
   script.expect(get(1402).sap(20).any_request().length(4).last(0)).status(17);
@@ -113,6 +134,15 @@ TEST_F(FabricConfiguration, AnElementIsReadByItsWwn) {
   EXPECT_EQ(sizeof ie_, 28u);
 }
 
+TEST_F(FabricConfiguration, AnElementIsReadWhenNoLengthIsReported) {
+  Script script;
+  script.expect(element(5, in_vsan(5, 1)))
+      .replies(element_reply(5, in_vsan(5, 1)))
+      .length_left_alone();
+  EXPECT_EQ(fcs_cim_get_ie_entry_with_wwn_hex(kQueue, 1, 5, in_vsan(5, 1).data(), &ie_), 0);
+  EXPECT_EQ(bytes_of(ie_.attribute_6), hex("b1 b2 b3 b4"));
+}
+
 TEST_F(FabricConfiguration, AnExactLookUpNeedsAVsanOf1To4094AndAWwn) {
   Script script;
   const Bytes wwn = in_vsan(1, 1);
@@ -147,8 +177,11 @@ TEST_F(FabricConfiguration, EveryWayToGetNoElementIsAFailure) {
   script.expect(element(5, wwn)).ok_without_reply();
   script.expect(element(5, wwn)).times_out();
   script.expect(element(5, wwn)).replies(element_reply(5, wwn)).cut_to(31);
-  for (int i = 0; i < 4; ++i)
+  script.expect(element(5, wwn)).replies(element_reply(5, wwn)).cut_to(31).length_left_alone();
+  script.expect(element(5, wwn)).status_with_reply(17, element_reply(5, wwn));
+  for (int i = 0; i < 6; ++i)
     EXPECT_EQ(fcs_cim_get_ie_entry_with_wwn_hex(kQueue, 1, 5, wwn.data(), &ie_), -1) << i;
+  EXPECT_EQ(bytes_of(ie_), zeros(28));
 }
 
 TEST_F(FabricConfiguration, EveryElementReplyLengthAndPatternIsSafe) {
@@ -250,6 +283,13 @@ TEST_F(FabricConfiguration, AnElementListRefusesNullArguments) {
   EXPECT_EQ(fcs_cim_get_ie_list_with_wwn_hex(kQueue, in_vsan(1, 1).data(), nullptr), -1);
 }
 
+std::vector<uint32_t> vsans_of(GSList* list) {
+  std::vector<uint32_t> vsans;
+  for (guint i = 0; i < cim_g_slist_length(list); ++i)
+    vsans.push_back(static_cast<fcs_cim_ie_*>(cim_g_slist_nth_data(list, i))->vsan);
+  return vsans;
+}
+
 TEST_F(FabricConfiguration, EveryFailingAllocationOfAnElementListLosesNothing) {
   Responder responder([](const Request& request) {
     HeapLedger::Pause inner;
@@ -262,19 +302,25 @@ TEST_F(FabricConfiguration, EveryFailingAllocationOfAnElementListLosesNothing) {
   size_t rounds = for_every_failing_allocation(
       [](FailingAllocation& round) {
         GSList* list = nullptr;
-        round.attempt([&list] {
-          return fcs_cim_get_ie_list_with_wwn_hex(kQueue, everywhere(0x2c).data(), &list);
-        });
+        const Bytes wwn = everywhere(0x2c);
+        const int32_t result = round.attempt(
+            [&] { return fcs_cim_get_ie_list_with_wwn_hex(kQueue, wwn.data(), &list); });
+        EXPECT_EQ(result, list != nullptr ? 0 : -1);
+        EXPECT_TRUE(round.was_hit() || cim_g_slist_length(list) == 3);
         cim_g_slist_destroy(list, nullptr);
       },
       Heap::c);
   EXPECT_GT(rounds, 6u);
-  // And every failing exchange.
-  for (size_t n = 1; n <= 8; ++n) {
-    HeapLedger counted;
-    responder.fail_nth_exchange(n, 17);
+  // And every failing exchange: a walk that ends there, or an element less.
+  const std::vector<uint32_t> left[] = {{}, {2, 3}, {1}, {1, 3}, {1, 2}, {1, 2}, {1, 2, 3}};
+  size_t n = 0;
+  for (const std::vector<uint32_t>& vsans : left) {
+    responder.fail_nth_exchange(++n, 17);
     GSList* list = nullptr;
-    fcs_cim_get_ie_list_with_wwn_hex(kQueue, everywhere(0x2c).data(), &list);
+    EXPECT_EQ(fcs_cim_get_ie_list_with_wwn_hex(kQueue, everywhere(0x2c).data(), &list),
+              vsans.empty() ? -1 : 0)
+        << n;
+    EXPECT_EQ(vsans_of(list), vsans) << n;
     cim_g_slist_destroy(list, nullptr);
   }
 }
@@ -404,26 +450,51 @@ TEST_F(FabricConfiguration, EveryFailingAllocationOfTheRecordsLosesNothing) {
     if (request.opcode == 1401) return Response::with(giel_reply({in_vsan(5, 1), in_vsan(5, 2)}));
     return Response::with(element_reply(5, in_vsan(5, 1)));
   });
+  // What is left when there is no memory for the list, the records, one request each, or none.
+  const struct {
+    int32_t result;
+    int32_t count;
+    const char* printed;
+  } left[] = {{-1, 9, "fcs get giel_reply error"},
+              {-1, 0, ""},
+              {0, 1, "\tfcs get ie entry fail for  2\n"},
+              {0, 1, "\tfcs get ie entry fail for  3\n"},
+              {0, 2, ""}};
+  size_t round_number = 0;
   const size_t rounds = for_every_failing_allocation(
-      [](FailingAllocation& round) {
-        int32_t count = 0;
+      [&](FailingAllocation& round) {
+        ASSERT_LT(round_number, std::size(left));
+        const auto& expected = left[round_number++];
+        int32_t count = 9;
         fcs_cim_ie_* elements = nullptr;
-        round.attempt([&] { return fcs_cim_get_ie_entries_in_vsan(kQueue, 5, &count, &elements); });
+        out_.clear();
+        EXPECT_EQ(round.attempt(
+                      [&] { return fcs_cim_get_ie_entries_in_vsan(kQueue, 5, &count, &elements); }),
+                  expected.result)
+            << round_number;
+        EXPECT_EQ(count, expected.count) << round_number;
+        EXPECT_EQ(out_.out(), expected.printed) << round_number;
+        EXPECT_EQ(elements != nullptr, expected.result == 0) << round_number;
         std::free(elements);
       },
       Heap::c);
-  EXPECT_EQ(rounds, 5u);  // the list, the records, and one request each
+  EXPECT_EQ(rounds, 5u);
 }
 
-std::vector<std::string> physical_switches(int32_t expected) {
-  GSList* list = nullptr;
-  EXPECT_EQ(fcs_cim_get_physical_switch_wwn_lists(kQueue, &list), expected);
+// The texts of a list, which is destroyed.
+std::vector<std::string> texts_of(GSList* list) {
   HeapLedger::Pause pause;
   std::vector<std::string> texts;
   for (guint i = 0; i < cim_g_slist_length(list); ++i)
     texts.emplace_back(static_cast<const char*>(cim_g_slist_nth_data(list, i)));
   cim_g_slist_destroy(list, nullptr);
   return texts;
+}
+
+std::vector<std::string> physical_switches(int32_t expected) {
+  GSList* list = nullptr;
+  EXPECT_EQ(fcs_cim_get_physical_switch_wwn_lists(kQueue, &list), expected);
+  return texts_of(list);
 }
 
 TEST_F(FabricConfiguration, ASwitchInThreeVsansIsOnePhysicalSwitch) {
@@ -494,19 +565,26 @@ TEST_F(FabricConfiguration, EveryFailingAllocationAndExchangeOfThePhysicalListLo
     return Response::with(
         element_reply(request.be32(4), Bytes(request.body->begin() + 8, request.body->end())));
   });
-  const auto fetch = [] {
-    GSList* list = nullptr;
-    fcs_cim_get_physical_switch_wwn_lists(kQueue, &list);
-    return list;
-  };
+  const std::vector<std::string> both = {"2000000DEC0A1B01", "2000000DEC0A1B02"};
   const size_t rounds = for_every_failing_allocation(
-      [&fetch](FailingAllocation& round) { cim_g_slist_destroy(round.attempt(fetch), nullptr); },
+      [&](FailingAllocation& round) {
+        GSList* list = nullptr;
+        const int32_t result =
+            round.attempt([&] { return fcs_cim_get_physical_switch_wwn_lists(kQueue, &list); });
+        EXPECT_EQ(result, list != nullptr ? 0 : -1);
+        EXPECT_TRUE(round.was_hit() || cim_g_slist_length(list) == 2);
+        cim_g_slist_destroy(list, nullptr);
+      },
       Heap::c);
   EXPECT_GT(rounds, 10u);
-  for (size_t n = 1; n <= 14; ++n) {
-    HeapLedger counted;
+  // Without the first VSAN only the local switch is known; without the first element of VSAN 1 its
+  // switch is found in VSAN 2, behind the other one.
+  for (size_t n = 1; n <= 13; ++n) {
+    std::vector<std::string> expected = both;
+    if (n == 1) expected = {"2000000DEC0A1B01"};
+    if (n == 3) expected = {"2000000DEC0A1B02", "2000000DEC0A1B01"};
     responder.fail_nth_exchange(n, 17);
-    cim_g_slist_destroy(fetch(), nullptr);
+    EXPECT_EQ(physical_switches(0), expected) << n;
   }
 }
 

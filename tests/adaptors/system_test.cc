@@ -196,6 +196,13 @@ TEST_F(SystemAdaptor, ARefusedSystemNameIsPassedOnAndSaid) {
   EXPECT_EQ(out_.out(), "system_cim_util:set SysName -  FAIL ret code is 17\n");
 }
 
+TEST_F(SystemAdaptor, ASystemNameThatTimesOutIsPassedOnAndSaid) {
+  Script script;
+  script.expect(set(878).sap(35).any_request().length(260)).times_out();
+  EXPECT_EQ(system_cim_set_SysName(kQueue, "sydney"), -1);
+  EXPECT_EQ(out_.out(), "system_cim_util:set SysName -  FAIL ret code is -1\n");
+}
+
 TEST_F(SystemAdaptor, NoSystemNameIsAFailureWithoutAnExchange) {
   Script script;
   EXPECT_EQ(system_cim_set_SysName(kQueue, nullptr), -1);
@@ -324,6 +331,63 @@ TEST_F(SystemAdaptor, WithoutAMatchThePeersAddressIsLeftAlone) {
   EXPECT_EQ(out_.out(), "");
 }
 
+TEST_F(SystemAdaptor, FortyEightBytesOfAPeersAddressAreWritten) {
+  Script script;
+  script.expect(discover_peers(discovery_request())).returns(0);
+  script.expect(receive().timeout(20).no_token())
+      .receives(peers().answer(kPeerOne, 1, hex("0a 00 00 02")));
+  Bytes ip(49, 'x');
+  EXPECT_EQ(get_kfs_peer_ip(kQueue, "2000000DEC0A1B3C", reinterpret_cast<char*>(ip.data())), 0);
+  EXPECT_EQ(ip, Bytes(Record(49).text(0, "10.0.0.2").byte(48, 'x')));
+}
+
+TEST_F(SystemAdaptor, APeerOfAnUnknownAddressFamilyHasTheAddressOfNobody) {
+  Script script;
+  script.expect(discover_peers(discovery_request())).returns(0);
+  script.expect(receive().timeout(20).no_token())
+      .receives(peers().answer(kPeerOne, 3, hex("0a 00 00 02")));
+  char ip[48] = "before";
+  EXPECT_EQ(get_kfs_peer_ip(kQueue, "2000000DEC0A1B3C", ip), 0);
+  EXPECT_STREQ(ip, "0.0.0.0");
+}
+
+TEST_F(SystemAdaptor, PeersAreReadWhateverTheAttributesOfTheReply) {
+  Script script;
+  script.expect(discover_peers(discovery_request())).returns(0);
+  script.expect(receive().timeout(20).no_token())
+      .receives(peers().answer(kPeerOne, 1, hex("0a 00 00 02")).attributes_fail(7));
+  char ip[48] = "before";
+  EXPECT_EQ(get_kfs_peer_ip(kQueue, "2000000DEC0A1B3C", ip), 0);
+  EXPECT_STREQ(ip, "10.0.0.2");
+}
+
+TEST_F(SystemAdaptor, AMatchingPeerNeedsNoPlaceForItsAddress) {
+  Script script;
+  script.expect(discover_peers(discovery_request())).returns(0);
+  script.expect(receive().timeout(20).no_token())
+      .receives(peers().answer(kPeerOne, 1, hex("0a 00 00 02")));
+  EXPECT_EQ(get_kfs_peer_ip(kQueue, "2000000DEC0A1B3C", nullptr), 0);
+  EXPECT_EQ(out_.out(), "Match Found ");
+}
+
+TEST_F(SystemAdaptor, PeersWithoutAnIteratorAreNone) {
+  Script script;
+  script.expect(discover_peers(discovery_request())).returns(0);
+  script.expect(receive().timeout(20).no_token()).receives(peers().count(3).no_iterator());
+  char ip[48] = "before";
+  EXPECT_EQ(get_kfs_peer_ip(kQueue, "2000000DEC0A1B3C", ip), 0);
+  EXPECT_STREQ(ip, "before");
+}
+
+TEST_F(SystemAdaptor, NoMessageOfPeersIsAFailureToReceive) {
+  Script script;
+  script.expect(discover_peers(discovery_request())).returns(0);
+  script.expect(receive().timeout(20).no_token()).returns(0);
+  char ip[48] = "before";
+  EXPECT_EQ(get_kfs_peer_ip(kQueue, "2000000DEC0A1B3C", ip), 1);
+  EXPECT_STREQ(ip, "before");
+}
+
 TEST_F(SystemAdaptor, NoPeersInTimeIsSaidSo) {
   Script script;
   script.expect(discover_peers(discovery_request())).returns(0);
@@ -398,6 +462,16 @@ TEST_F(SystemAdaptor, AnUnknownDomainLeavesTheNameAlone) {
   EXPECT_STREQ(name, "before");
 }
 
+TEST_F(SystemAdaptor, AListOfTwoSwitchesIsSearchedFromTheFirst) {
+  Script script;
+  script.expect(query_switch_addresses()).returns(0);
+  script.expect(receive().timeout(5))
+      .receives(switch_addresses().entry(10, "sydney").entry(20, "melbourne"));
+  char name[257] = "before";
+  EXPECT_EQ(get_remote_switchname(10, name), 0);
+  EXPECT_STREQ(name, "sydney");
+}
+
 TEST_F(SystemAdaptor, AListOfOneSwitchIsNotSearched) {
   Script script;
   script.expect(query_switch_addresses()).returns(0);
@@ -457,6 +531,25 @@ TEST_F(SystemAdaptor, AFailedReceiveOfAddressesShowsAsAFailedParse) {
   char name[257] = "before";
   EXPECT_EQ(get_remote_switchname(10, name), -1);
   EXPECT_EQ(out_.out(), "API failed errno: 0xffffffff");
+}
+
+TEST_F(SystemAdaptor, ARequestForAddressesWithoutAMessageShowsAsAFailedParse) {
+  Script script;
+  script.expect(query_switch_addresses()).sent_without_message();
+  char name[257] = "before";
+  EXPECT_EQ(get_remote_switchname(10, name), -1);
+  EXPECT_STREQ(name, "before");
+  EXPECT_EQ(out_.out(), "API failed errno: 0xffffffff");
+}
+
+TEST_F(SystemAdaptor, TheResultOfReceivingAddressesIsNotTested) {
+  Script script;
+  script.expect(query_switch_addresses()).returns(0);
+  script.expect(receive().timeout(5))
+      .fails_with_message(-1, switch_addresses().entry(10, "sydney").entry(20, "perth"));
+  char name[257] = "before";
+  EXPECT_EQ(get_remote_switchname(20, name), 0);
+  EXPECT_STREQ(name, "perth");
 }
 
 TEST_F(SystemAdaptor, AddressesThatCannotBeParsedPrintTheirErrorAndAreFreed) {

@@ -406,6 +406,21 @@ TEST_F(VsanAdaptor, AVsanThatCannotBeReadIsNotChanged) {
   EXPECT_NE(out_.out(), "");
 }
 
+TEST_F(VsanAdaptor, AVsanReadWithoutAReplyIsChangedAsItWasAsked) {
+  Script script;
+  script.expect(get(149).sap(15).sends(request_for(3))).ok_without_reply();
+  script.expect(set(149).sap(15).sends(Record(2632).be32(520, 3).be32(528, 1))).returns(0);
+  EXPECT_EQ(vsan_cim_set_VsanEntry(kQueue, 3, 2), 0);
+}
+
+TEST_F(VsanAdaptor, AChangeThatTimesOutIsPassedOnAndSaid) {
+  Script script;
+  script.expect(get(149).sap(15).any_request()).replies(entry_message(10));
+  script.expect(set(149).sap(15).any_request().length(2632)).times_out();
+  EXPECT_EQ(vsan_cim_set_VsanEntry(kQueue, 10, 2), -1);
+  EXPECT_EQ(out_.out(), "set Vsan State -  FAIL ret code is -1\n");
+}
+
 TEST_F(VsanAdaptor, ARefusedChangeIsPassedOnAndSaid) {
   Script script;
   script.expect(get(149).sap(15).any_request()).replies(entry_message(10));

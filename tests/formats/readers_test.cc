@@ -1,5 +1,5 @@
-// Readers of identifier texts, against results written out by hand. hex_scan_test.cc and
-// address_scan_test.cc compare them with the C library besides.
+// Readers of identifier texts, against results written out by hand. scan_comparison_test.cc
+// compares them with the C library besides.
 #include <cim_utils/formats.h>
 #include <gtest/gtest.h>
 

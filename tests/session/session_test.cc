@@ -260,6 +260,15 @@ TEST_F(Session, AVersionIsCutTo31Characters) {
   EXPECT_STREQ(getSwitchVersion(), "0123456789012345678901234567890");
 }
 
+TEST_F(Session, AnEmptyVersionIsSaidAndAskedForAgain) {
+  Script script;
+  script.expect(software_version().gives(""));
+  script.expect(software_version().gives("3.2(1a)"));
+  EXPECT_STREQ(getSwitchVersion(), "");
+  EXPECT_EQ(out_.out(), " getSwitchVersion(): The version returned is  \n");
+  EXPECT_STREQ(getSwitchVersion(), "3.2(1a)");
+}
+
 TEST_F(Session, WithoutAVersionThePlatformIsNotAskedAgain) {
   Script script;
   script.expect(software_version().gives(nullptr));

@@ -9,6 +9,7 @@ namespace {
 
 struct DomainList : MessageContent {
   std::vector<DomainId> domains;
+  int32_t announced = 0;
 };
 
 const DomainId* entry(const mts_msg_t* message, int32_t i, const char* function) {
@@ -16,6 +17,7 @@ const DomainId* entry(const mts_msg_t* message, int32_t i, const char* function)
   auto* list = content_of<DomainList>(message, function);
   if (list == nullptr) return nullptr;
   if (i >= 0 && static_cast<size_t>(i) < list->domains.size()) return &list->domains[i];
+  if (i >= 0 && i < list->announced) return nullptr;
   double_failure(std::string(function) + " of entry " + std::to_string(i) + " of " +
                  std::to_string(list->domains.size()));
   return nullptr;
@@ -24,9 +26,14 @@ const DomainId* entry(const mts_msg_t* message, int32_t i, const char* function)
 }  // namespace
 
 Content domain_list(const std::vector<DomainId>& domains) {
+  return domain_list(domains, static_cast<int32_t>(domains.size()));
+}
+
+Content domain_list(const std::vector<DomainId>& domains, int32_t announced) {
   HeapLedger::Pause pause;
   auto list = std::make_shared<DomainList>();
   list->domains = domains;
+  list->announced = announced;
   return list;
 }
 
@@ -60,7 +67,7 @@ int32_t dm_get_dom_ids_in_sw(int32_t q, int32_t zero, mts_msg_t** message) {
 int32_t dm_parse_get_num_entries(const mts_msg_t* message) {
   HeapLedger::Pause pause;
   auto* list = content_of<DomainList>(message, "dm_parse_get_num_entries");
-  return list == nullptr ? 0 : static_cast<int32_t>(list->domains.size());
+  return list == nullptr ? 0 : list->announced;
 }
 
 uint32_t dm_parse_get_vsan_index_in_vsan(const mts_msg_t* message, int32_t i) {

@@ -17,6 +17,8 @@ struct DomainId {
 
 // The message that dm_get_dom_ids_in_sw hands out.
 Content domain_list(const std::vector<DomainId>& domains);
+// The same, announcing another number of entries. Those that are missing read as zeros.
+Content domain_list(const std::vector<DomainId>& domains, int32_t announced);
 
 // dm_get_dom_ids_in_sw on kQueue, zero word 0.
 class DomainIdsQuery : public Line<DomainIdsQuery> {

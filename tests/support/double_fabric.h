@@ -15,6 +15,8 @@ namespace test_support {
 class AddressListQuery : public SendingLine<AddressListQuery> {
  public:
   AddressListQuery();
+  // Success without a request message.
+  AddressListQuery& sent_without_message();
 };
 AddressListQuery query_switch_addresses();
 
@@ -64,6 +66,8 @@ class PeerReply {
   // kfs_iter_parse_response fails and hands out an iterator all the same.
   PeerReply& parse_fails(int32_t code);
   PeerReply& parse_fails_without_iterator(int32_t code);
+  // It succeeds and hands out no iterator.
+  PeerReply& no_iterator();
   operator Content() const;  // NOLINT: to be received as a message
 
   struct Reply;

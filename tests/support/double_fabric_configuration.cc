@@ -22,6 +22,11 @@ AddressListQuery::AddressListQuery() : SendingLine("fcs_send_get_inet_addr") {
   call()->answer_required = true;
 }
 
+AddressListQuery& AddressListQuery::sent_without_message() {
+  answer().count = 0;
+  return returns(0);
+}
+
 AddressListQuery query_switch_addresses() {
   return {};
 }
@@ -82,7 +87,8 @@ int32_t fcs_send_get_inet_addr(int32_t q, int32_t one, mts_msg_t** request) {
             {number_argument("q", q), number_argument("one", one),
              preset_argument("request", reinterpret_cast<const void* const*>(request))}};
   Answer answer = answer_to(call);
-  if (request != nullptr) *request = hand_out_message(answer, call, q, true);
+  const bool handed_out = answer.count.value_or(1) != 0;
+  if (request != nullptr && handed_out) *request = hand_out_message(answer, call, q, true);
   return static_cast<int32_t>(answer.result);
 }
 

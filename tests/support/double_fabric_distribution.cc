@@ -28,6 +28,7 @@ struct PeerReply::Reply : MessageContent {
   int32_t attribute_result = 0;
   int32_t parse_result = 0;
   bool iterator_despite_failure = true;
+  bool iterator_on_success = true;
 };
 
 PeerDiscovery::PeerDiscovery(const Bytes& request) : SendingLine("kfs_discover_peers") {
@@ -85,6 +86,11 @@ PeerReply& PeerReply::parse_fails_without_iterator(int32_t code) {
   return parse_fails(code);
 }
 
+PeerReply& PeerReply::no_iterator() {
+  reply_->iterator_on_success = false;
+  return *this;
+}
+
 PeerReply::operator Content() const {
   return reply_;
 }
@@ -140,9 +146,10 @@ int32_t kfs_iter_parse_response(const void* payload, int32_t size, int32_t* coun
   PeerReply::Reply* reply = reply_of(payload, size, "kfs_iter_parse_response");
   if (reply == nullptr) return -1;
   if (reply->parse_result != 0 && !reply->iterator_despite_failure) return reply->parse_result;
+  *count = reply->count.value_or(static_cast<int32_t>(reply->answers.size()));
+  if (reply->parse_result == 0 && !reply->iterator_on_success) return 0;
   auto answers = std::make_shared<Iterator>();
   answers->answers = reply->answers;
-  *count = reply->count.value_or(static_cast<int32_t>(reply->answers.size()));
   *iter = make_handle("the iterator of kfs_iter_parse_response", answers);
   return reply->parse_result;
 }
