@@ -95,6 +95,9 @@ TEST_F(Session, ThePegasusFaceHasItsOwnHandleAndItsOwnWords) {
   EXPECT_EQ(ProviderUtil::mts_q, 11);
   EXPECT_EQ(mts_q, 9);
   EXPECT_EQ(out_.err(), "succeffuly create mts response q\n");
+  pegasus_q = 0;
+  EXPECT_EQ(ProviderUtil::init_mts(&pegasus_q), 0);
+  EXPECT_EQ(pegasus_q, 11);
 }
 
 TEST_F(Session, ThePegasusFaceFailsToBindWithTheSameWords) {
@@ -114,6 +117,13 @@ TEST_F(Session, ReleasingAnUnboundHandleCallsNothing) {
   EXPECT_EQ(deinit_mts(nullptr), 0);
   EXPECT_EQ(ProviderUtil::deinit_mts(&q), 0);
   EXPECT_EQ(script.calls(), 0u);
+}
+
+TEST_F(Session, HandleZeroIsReleased) {
+  Script script;
+  script.expect(unbind(0)).returns(3);
+  int32_t q = 0;
+  EXPECT_EQ(deinit_mts(&q), 3);
 }
 
 TEST_F(Session, ReleasingKeepsTheHandleAndHandsItOutAgain) {

@@ -47,11 +47,15 @@ TEST_F(SystemInformation, ItemsFiveAndSixCarryANumberInTheAnswersFirstWord) {
   for (const uint32_t item : {5u, 6u}) {
     Script script;
     script.expect(get(1812).sap(28).sends(request_for(item)))
-        .replies(Record(1032).be32(0, item).be32(4, 0x01020304).be32(1028, 0x0a0b0c0d));
+        .replies(Record(1032)
+                     .be32(0, item)
+                     .be32(4, 0x01020304)
+                     .be32(8, 0x05060708)
+                     .be32(1028, 0x0a0b0c0d));
     info_ = {};
     info_.selector = item;
     EXPECT_EQ(snmp_get_sys_info1(kQueue, &info_), 0);
-    EXPECT_EQ(Bytes(info_.answer, info_.answer + 4), hex("04 03 02 01"));
+    EXPECT_EQ(Bytes(info_.answer, info_.answer + 8), hex("04 03 02 01 05 06 07 08"));
     EXPECT_EQ(bytes_of(info_.count), hex("0a 0b 0c 0d"));
   }
 }
