@@ -6,6 +6,7 @@
 #include <cim_utils/wwn_rules.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
 
@@ -40,7 +41,8 @@ struct ElementReply {
 // Sends the selector and `length` bytes of data. Result: 0 with a reply, or -1.
 int32_t ask_for_data(int32_t session, uint32_t selector, uint32_t operation, const void* data,
                      int32_t length, Reply* reply) {
-  if (length < 0 || (data == nullptr && length > 0)) return -1;
+  constexpr int32_t kMostData = INT32_MAX - static_cast<int32_t>(sizeof selector);
+  if (length < 0 || length > kMostData || (data == nullptr && length > 0)) return -1;
   const size_t size = sizeof selector + static_cast<size_t>(length);
   auto request = allocate<std::byte>(size);
   if (request == nullptr) return -1;

@@ -77,6 +77,19 @@ TEST_F(FabricConfiguration, OneExchangeSendsSelectorAndDataAndGivesTheWholeReply
   EXPECT_EQ(Bytes(out, out + 6), hex("01 02 03 04 05 77"));
 }
 
+TEST_F(FabricConfiguration, OneExchangeSendsOneByteOfDataOrNone) {
+  Script script;
+  script.expect(get(1402).sap(20).sends(hex("01 02 03 04 aa")).last(0)).replies(hex("05"));
+  script.expect(get(1402).sap(20).sends(hex("01 02 03 04")).last(0)).replies(hex("06"));
+  uint8_t out = 0;
+  EXPECT_EQ(fcs_get_data(kQueue, 0x01020304, 1, hex("aa").data(), 1, &out), 0);
+  EXPECT_EQ(out, 5);
+  EXPECT_EQ(fcs_get_data(kQueue, 0x01020304, 1, nullptr, 0, &out), 0);
+  EXPECT_EQ(out, 6);
+  script.expect(get(1402).sap(20).sends(hex("01 02 03 04")).last(0)).replies(hex("07"));
+  EXPECT_EQ(fcs_get_data(kQueue, 0x01020304, 1, nullptr, 0, nullptr), 0);
+}
+
 TEST_F(FabricConfiguration, OneExchangeGivesNoByteBeyondTheReportedLength) {
   // The length still says 9, that of the request: nothing else is reported for the reply.
   Script script;
@@ -115,6 +128,7 @@ TEST_F(FabricConfiguration, BadDataIsAFailureWithoutAnExchange) {
   Script script;
   uint8_t out[4] = {};
   EXPECT_EQ(fcs_get_data(kQueue, 20, 1, out, -1, out), -1);
+  EXPECT_EQ(fcs_get_data(kQueue, 20, 1, out, 0x7ffffffc, out), -1);
   EXPECT_EQ(fcs_get_data(kQueue, 20, 1, nullptr, 4, out), -1);
   ledger_.fail_nth(1, Heap::c);
   EXPECT_EQ(fcs_get_data(kQueue, 20, 1, out, 4, out), -1);
@@ -395,6 +409,17 @@ TEST_F(FabricConfiguration, NoListIsASilentFailure) {
   EXPECT_EQ(out_.out(), "");
   EXPECT_EQ(fcs_cim_get_ies_in_vsan(kQueue, 5, nullptr, &count), -1);
   EXPECT_EQ(fcs_cim_get_ies_in_vsan(kQueue, 5, &entries, nullptr), -1);
+}
+
+TEST_F(FabricConfiguration, AListWithoutMemoryIsAFailure) {
+  Script script;
+  script.expect(giel(5)).replies(giel_reply({in_vsan(5, 1)}));
+  ledger_.fail_nth(1, Heap::c);
+  fcs_giel_entry_* entries = nullptr;
+  int32_t count = 9;
+  EXPECT_EQ(fcs_cim_get_ies_in_vsan(kQueue, 5, &entries, &count), -1);
+  EXPECT_EQ(entries, nullptr);
+  EXPECT_EQ(count, 9);
 }
 
 TEST_F(FabricConfiguration, EveryListReplyLengthAndPatternIsSafe) {
