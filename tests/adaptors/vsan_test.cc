@@ -300,6 +300,16 @@ TEST_F(VsanAdaptor, AnUnreadableCountGivesNoList) {
   EXPECT_EQ(list, nullptr);
 }
 
+TEST_F(VsanAdaptor, AListNeedsAPlaceForItselfAndItsCount) {
+  Script script;
+  int32_t count = 5;
+  vsanNewEntry_t* list = nullptr;
+  EXPECT_EQ(vsan_cim_get_all_vsanEntry(kQueue, nullptr, &list), -1);
+  EXPECT_EQ(vsan_cim_get_all_vsanEntry(kQueue, &count, nullptr), -1);
+  EXPECT_EQ(count, 5);
+  EXPECT_EQ(script.calls(), 0u);
+}
+
 TEST_F(VsanAdaptor, ANegativeCountGivesNoList) {
   Script script;
   script.expect(get(125).sap(15).no_request().length(4)).replies(hex("ff ff ff ff"));
