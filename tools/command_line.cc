@@ -167,28 +167,50 @@ constexpr const char* kDeleteExamples =
     "Example:\n"
     "  vexor-cim delete 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"'";
 
+/// An empty text is as a rule a variable of a script that was not set.
+CLI::Validator not_empty(const char* what) {
+  CLI::Validator check;
+  check.operation([what](const std::string& text) {
+    return text.empty() ? std::string(what) + " is missing" : std::string();
+  });
+  return check;
+}
+
+const CLI::Validator& file_name() {
+  static const CLI::Validator kCheck = not_empty("the name of the file");
+  return kCheck;
+}
+
 void add_global_options(CLI::App& app, Options& options) {
   app.add_option("--namespace", options.name_space, "CIM namespace (root/cimv2)")
-      ->type_name("NAME");
+      ->type_name("NAME")
+      ->check(not_empty("the name"));
   app.add_option("--trace", options.trace_file, "write the traces of the library to FILE")
-      ->type_name("FILE");
+      ->type_name("FILE")
+      ->check(file_name());
   app.add_flag("-v,--verbose", options.verbose, "show the traces of the library on standard error");
   app.add_option("--mof", options.mof, "class definitions: a MOF file, or a folder with vexor.mof")
-      ->type_name("PATH");
-  app.add_option("--providers", options.providers, "provider library")->type_name("FILE");
+      ->type_name("PATH")
+      ->check(file_name());
+  app.add_option("--providers", options.providers, "provider library")
+      ->type_name("FILE")
+      ->check(file_name());
 }
 
 #if VEXOR_WITH_SIMULATOR
 void add_platform_options(CLI::App& app, PlatformOptions& options) {
   app.add_option("--fabric", options.fabric, "answer from the simulated fabric in a fabric file")
-      ->type_name("FILE");
+      ->type_name("FILE")
+      ->check(file_name());
   app.add_option("--generate", options.generate,
                  "answer from a made-up fabric, such as\n"
                  "switches=8,ports=48,vsans=8,devices=200,seed=7")
       ->type_name("NUMBERS");
   app.add_option("--state", options.state,
-                 "go on from this file where it exists, and keep every change in it")
-      ->type_name("FILE");
+                 "go on from this file where it exists, and keep every change in it;\n"
+                 "without it changes end with the command")
+      ->type_name("FILE")
+      ->check(file_name());
 }
 #endif
 
@@ -239,7 +261,10 @@ void add_path(CLI::App& command, Options& options) {
 }
 
 void add_class(CLI::App& command, const char* name, Options& options) {
-  command.add_option(name, options.target, "name of a class")->required()->type_name("");
+  command.add_option(name, options.target, "name of a class")
+      ->required()
+      ->type_name("")
+      ->check(not_empty("the name of the class"));
 }
 
 CLI::Option* add_values(CLI::App& command, Options& options, const char* description) {
@@ -366,8 +391,8 @@ void add_changing_commands(Commands& commands, Options& options) {
 std::string contradiction(const Options& options) {
   if (options.platform.fabric && options.platform.generate)
     return "--fabric and --generate both say what the fabric is";
-  if (options.platform.state && options.platform.state->empty())
-    return "--state: the name of the file is missing";
+  if (!options.trace_file.empty() && options.verbose)
+    return "--trace and --verbose both say where the traces go";
   const bool names = options.names || options.command == Command::associator_names ||
                      options.command == Command::reference_names;
   const std::string what = options.names ? "--names prints paths, which " : "paths ";
@@ -395,6 +420,47 @@ std::string unknown_command(const CLI::App& app, int argc, const char* const* ar
     return text;
   }
   return {};
+}
+
+/// The first word that nothing takes.
+std::string unexpected_word(const CLI::App& app, int argc, const char* const* argv) {
+  const std::vector<std::string> unexpected = app.remaining(true);
+  for (int i = 1; i < argc; ++i) {
+    const std::string word = argv[i];
+    if (std::find(unexpected.begin(), unexpected.end(), word) != unexpected.end()) return word;
+  }
+  return {};
+}
+
+std::vector<std::string> option_names(const CLI::App& app) {
+  std::vector<std::string> names;
+  const auto add = [&names](const CLI::App& from) {
+    for (const CLI::Option* option : from.get_options())
+      for (const std::string& name : option->get_lnames())
+        names.push_back("--" + name);
+  };
+  add(app);
+  for (const CLI::App* command : app.get_subcommands())
+    add(*command);
+  return names;
+}
+
+std::string unexpected(const CLI::App& app, int argc, const char* const* argv) {
+  const std::string word = unexpected_word(app, argc, argv);
+  if (!word.starts_with("-")) return "the argument " + word + " is one too many";
+  const std::vector<std::string> known = option_names(app);
+  const std::string_view nearest =
+      cim::schema::nearest_name(word, std::vector<std::string_view>(known.begin(), known.end()));
+  std::string text = "no option " + word;
+  if (!nearest.empty()) text += " (did you mean " + std::string(nearest) + "?)";
+  return text;
+}
+
+/// What the parser calls "1 required FORMAT missing" and "At Most 1 required but received 2".
+std::string mismatch(const std::string& text) {
+  const std::string option = text.substr(0, text.find(':'));
+  const bool twice = text.find("received") != std::string::npos;
+  return option + (twice ? " is given twice" : ": its value is missing");
 }
 
 std::string one_line(std::string text) {
@@ -446,6 +512,10 @@ Parsed parse_command_line(int argc, const char* const* argv) {
     const std::string unknown = unknown_command(app, argc, argv);
     if (!unknown.empty()) return refused(unknown);
     if (app.get_subcommands().empty()) return refused("a command is needed");
+    if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr)
+      return refused(unexpected(app, argc, argv));
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr)
+      return refused(mismatch(error.what()));
     return refused(one_line(error.what()));
   }
 

@@ -38,7 +38,8 @@ void prepare_platform(const PlatformOptions& options) {
   if (options.state) check(control::keep_state_in(*options.state));
 }
 
-void check_platform() {
+void check_platform(Streams& streams) {
+  control::tell_problems_to([&streams](const std::string& problem) { streams.error(problem); });
   const std::string problem = control::startup_problem();
   if (!problem.empty()) throw BadInput(problem);
   const std::string unreachable = control::connection_problem();
@@ -53,7 +54,7 @@ std::string platform_fabric() {
 
 void prepare_platform(const PlatformOptions&) {}
 
-void check_platform() {}
+void check_platform(Streams&) {}
 
 std::string platform_fabric() {
   return {};

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "tools/command_line.h"
+#include "tools/streams.h"
 
 namespace vexor::tools {
 
@@ -13,9 +14,10 @@ namespace vexor::tools {
 /// \throws BadInput when one of them cannot be used
 void prepare_platform(const PlatformOptions& options);
 
+/// From now on changes that the platform could not save are told as errors, while `streams` lives.
 /// \throws BadInput when the platform's own configuration is wrong, or another process's switch
 /// that it names does not answer
-void check_platform();
+void check_platform(Streams& streams);
 
 /// The present fabric as a fabric file.
 std::string platform_fabric();

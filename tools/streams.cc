@@ -67,6 +67,7 @@ std::string Streams::open(const TraceSink& sink) {
   // On a screen the two trace streams keep their order; in a file speed counts.
   std::setvbuf(stdout, nullptr, sink.to_standard_error ? _IOLBF : _IOFBF, kTraceBuffer);
   send_sanitizer_reports_to(real_errors);
+  trace_file_ = sink.file;
   return {};
 }
 
@@ -85,7 +86,11 @@ void Streams::flush() {
 
 std::string Streams::finish() {
   flush();
-  return problem_;
+  if (!problem_.empty()) return "the results cannot be written: " + problem_;
+  if (trace_file_.empty()) return {};
+  const std::string lost = "trace file " + trace_file_ + " cannot be written";
+  if (std::fflush(stdout) != 0) return lost + ": " + reason(errno);
+  return std::ferror(stdout) != 0 ? lost : std::string();
 }
 
 }  // namespace vexor::tools

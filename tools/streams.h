@@ -30,13 +30,14 @@ class Streams {
   void error(std::string_view text);
   /// Hands the results so far on; what is wrong is told by finish().
   void flush();
-  /// \return an empty text, or why results were lost
+  /// \return an empty text, or what was lost and why: results, or traces for a file
   std::string finish();
 
  private:
   std::FILE* results_ = stdout;
   std::FILE* errors_ = stderr;
   std::string problem_;
+  std::string trace_file_;
 };
 
 }  // namespace vexor::tools

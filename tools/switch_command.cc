@@ -64,7 +64,7 @@ int serve_switch(const Options& options, Streams& streams) {
   // A switch is nobody's client: what the environment says of one is for other programs.
   unsetenv("SWITCH_SIM_SOCKET");
   prepare_platform(options.platform);
-  check_platform();
+  check_platform(streams);
   const EndSignals signals;
   const std::string path = absolute(options.socket);
   bool serves = false;

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "host/cim_error.h"
 #include "host/object_manager.h"
 #include "host/object_path.h"
 #include "schema/names.h"
@@ -46,7 +47,7 @@ void load_classes(Repository& repository, const Options& options) {
   throw BadInput(text);
 }
 
-cim::host::Settings settings_for(const Options& options) {
+cim::host::Settings settings_for(const Options& options, Streams& streams) {
   cim::host::Settings settings;
   cim::host::ProviderRoute route;
   route.name = kProviderName;
@@ -55,7 +56,7 @@ cim::host::Settings settings_for(const Options& options) {
   if (options.command != Command::classes && options.command != Command::show_class) {
     route.library = checked(find_providers(options.providers));
     // Told here once, instead of in every answer.
-    check_platform();
+    check_platform(streams);
   }
   settings.providers.push_back(std::move(route));
   settings.report = [](std::string_view line) {
@@ -171,9 +172,22 @@ void check_role(const Repository& repository, const char* option, const std::str
                  did_you_mean(role, known));
 }
 
-void check_filter(const ObjectManager& manager, const cim::host::AssociationFilter& filter) {
-  for (const std::string& name : {filter.association_class, filter.result_class})
-    if (!name.empty()) manager.find_class(name);
+/// The same for a class that is no association.
+void check_association(const ObjectManager& manager, const char* option, const std::string& name) {
+  if (!name.empty() && !manager.find_class(name).is_association)
+    throw BadInput(std::string(option) + ": " + name + " is no association");
+}
+
+void check_filter(const ObjectManager& manager, const Options& options) {
+  const cim::host::AssociationFilter& filter = options.filter;
+  check_association(manager, "--assoc-class", filter.association_class);
+  const bool gives_associations =
+      options.command == Command::references || options.command == Command::reference_names;
+  if (gives_associations) {
+    check_association(manager, "--result-class", filter.result_class);
+  } else if (!filter.result_class.empty()) {
+    manager.find_class(filter.result_class);
+  }
   check_role(manager.repository(), "--role", filter.role);
   check_role(manager.repository(), "--result-role", filter.result_role);
 }
@@ -194,11 +208,21 @@ std::string shown(const ObjectManager& manager, const Options& options,
                          options.properties);
 }
 
+/// Providers find nothing at an object that is not there, which as a rule is a slip, too.
+/// \throws CimError when it is not there
+void check_object(ObjectManager& manager, const ObjectPath& path) {
+  try {
+    manager.get_instance(path);
+  } catch (const cim::host::CimError& error) {
+    if (error.code() == CMPI_RC_ERR_NOT_FOUND) throw;
+  }
+}
+
 std::string associated(ObjectManager& manager, const Options& options) {
   const Repository& repository = manager.repository();
   const bool references = options.command == Command::references;
   const ObjectPath path = path_of(manager, options);
-  check_filter(manager, options.filter);
+  check_filter(manager, options);
   if (!options.filter.result_class.empty()) {
     check_properties(repository, manager.find_class(options.filter.result_class),
                      options.properties);
@@ -209,21 +233,21 @@ std::string associated(ObjectManager& manager, const Options& options) {
     const auto all = repository.all();
     check_properties(repository, {all.begin(), all.end()}, "no class has a", options.properties);
   }
-  const std::string name = cim::host::to_short_text(path);
-  if (references) {
-    return shown(manager, options, manager.references(path, options.filter, options.properties),
-                 "No association leads to " + name + "\n");
-  }
-  return shown(manager, options, manager.associators(path, options.filter, options.properties),
-               "Nothing is associated with " + name + "\n");
+  const std::vector<Instance> found =
+      references ? manager.references(path, options.filter, options.properties)
+                 : manager.associators(path, options.filter, options.properties);
+  if (found.empty()) check_object(manager, path);
+  const char* nothing = references ? "No association leads to " : "Nothing is associated with ";
+  return shown(manager, options, found, nothing + cim::host::to_short_text(path) + "\n");
 }
 
 std::string associated_names(ObjectManager& manager, const Options& options) {
   const ObjectPath path = path_of(manager, options);
-  check_filter(manager, options.filter);
+  check_filter(manager, options);
   const std::vector<ObjectPath> paths = options.command == Command::reference_names
                                             ? manager.reference_names(path, options.filter)
                                             : manager.associator_names(path, options.filter);
+  if (paths.empty()) check_object(manager, path);
   return options.format == Format::json ? paths_json(paths) : paths_text(paths);
 }
 
@@ -327,22 +351,22 @@ Outcome run_command(ObjectManager& manager, const Options& options) {
   return {};
 }
 
-Outcome outcome_of(const Options& options) {
+Outcome outcome_of(const Options& options, Streams& streams) {
   prepare_platform(options.platform);
   if (options.command == Command::fabric) {
-    check_platform();
+    check_platform(streams);
     return {platform_fabric()};
   }
   Repository repository;
   load_classes(repository, options);
-  ObjectManager manager(repository, settings_for(options));
+  ObjectManager manager(repository, settings_for(options, streams));
   return run_command(manager, options);
 }
 
 int run(const Options& options, Streams& streams) {
   try {
     if (options.command == Command::serve_switch) return serve_switch(options, streams);
-    const Outcome outcome = outcome_of(options);
+    const Outcome outcome = outcome_of(options, streams);
     streams.result(outcome.text);
     return outcome.status;
   } catch (const BadInput& error) {
@@ -354,11 +378,11 @@ int run(const Options& options, Streams& streams) {
   }
 }
 
-/// Results that did not arrive are a failure, whatever the command said.
+/// Results or traces that did not arrive are a failure, whatever the command said.
 int finished(Streams& streams, int status) {
   const std::string problem = streams.finish();
   if (problem.empty()) return status;
-  streams.error("the results cannot be written: " + problem);
+  streams.error(problem);
   return kFailed;
 }
 

@@ -143,11 +143,19 @@ Outcome Platform::change(const Request& request) {
   Outcome outcome = answer(request, changed, clock_.now());
   if (outcome.status != status::kOk || changed == fabric_) return outcome;
   if (auto error = state_.save(request, changed)) {
-    fprintf(stderr, "switch simulator: a change was not saved: %s\n", error->message.c_str());
+    tell("a change was not saved: " + error->message);
     return services::refuse(status::kStateNotSaved);
   }
   fabric_ = std::move(changed);
   return outcome;
+}
+
+void Platform::tell(const std::string& problem) const {
+  if (listener_) {
+    listener_(problem);
+  } else {
+    fprintf(stderr, "switch simulator: %s\n", problem.c_str());
+  }
 }
 
 TimedOutcome Platform::serve(const TimedRequest& timed) {

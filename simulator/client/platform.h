@@ -5,6 +5,7 @@
 #define SIMULATOR_CLIENT_PLATFORM_H
 
 #include <cerrno>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <set>
@@ -47,6 +48,8 @@ struct HandedOut {
 
 class Platform {
  public:
+  using Listener = std::function<void(const std::string& problem)>;
+
   static Platform& instance();
 
   std::unique_lock<std::mutex> lock() { return std::unique_lock(mutex_); }
@@ -91,6 +94,9 @@ class Platform {
   // before the change is acknowledged. An empty path ends that.
   std::optional<FabricError> keep_state_in(const std::string& path);
 
+  // Who is told of changes that cannot be saved; nobody: standard error.
+  void tell_problems_to(Listener listener) { listener_ = std::move(listener); }
+
   // Answers from the switch that another process serves at a socket. An empty path ends that.
   std::optional<std::string> use_switch_at(const std::string& path);
 
@@ -123,6 +129,7 @@ class Platform {
   std::unique_ptr<Carrier> open_carrier();
   Outcome handle(const Request& request);
   Outcome change(const Request& request);
+  void tell(const std::string& problem) const;
   VirtualTime time_of(const Request& request) const;
   Outcome exchange(std::unique_ptr<Carrier>& carrier, const Request& request);
 
@@ -136,6 +143,7 @@ class Platform {
   std::unique_ptr<Recording> recording_;
   std::unique_ptr<SwitchConnection> connection_;  // null: the fabric is this process's own
   StateStore state_;
+  Listener listener_;
   std::string startup_problem_;  // not empty: the environment cannot be used, nothing is answered
 
   int32_t next_queue_ = 1;

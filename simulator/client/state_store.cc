@@ -1,6 +1,7 @@
 #include "simulator/client/state_store.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -143,11 +144,61 @@ std::string resolved(const std::string& path) {
   return result;
 }
 
+// Empty for what cannot be read.
+std::string text_of(const std::string& path) {
+  auto read = read_text_file(path);
+  auto* text = std::get_if<std::string>(&read);
+  return text != nullptr ? std::move(*text) : std::string();
+}
+
+bool has_checksum(const std::string& path, uint64_t checksum) {
+  const auto read = read_text_file(path);
+  const auto* text = std::get_if<std::string>(&read);
+  return text != nullptr && checksum_of(*text) == checksum;
+}
+
+// While it lives, other processes wait before they read or replace the file. Locks nothing where
+// there is no file or the file system knows no locks.
+class FileLock {
+ public:
+  explicit FileLock(const std::string& path) {
+    // A file that was replaced while we waited is another one by now.
+    do {
+      release();
+      descriptor_ = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    } while (descriptor_ >= 0 && is_locked() && !is_at(path));
+  }
+  ~FileLock() { release(); }
+  FileLock(const FileLock&) = delete;
+  FileLock& operator=(const FileLock&) = delete;
+
+ private:
+  bool is_locked() const {
+    int result = 0;
+    do {
+      result = flock(descriptor_, LOCK_EX);
+    } while (result != 0 && errno == EINTR);
+    return result == 0;
+  }
+  bool is_at(const std::string& path) const {
+    struct stat locked {};
+    struct stat present {};
+    return fstat(descriptor_, &locked) == 0 && stat(path.c_str(), &present) == 0 &&
+           locked.st_dev == present.st_dev && locked.st_ino == present.st_ino;
+  }
+  void release() {
+    if (descriptor_ >= 0) close(descriptor_);
+    descriptor_ = -1;
+  }
+
+  int descriptor_ = -1;
+};
+
 }  // namespace
 
 std::optional<StateStore::Identity> StateStore::identity_of(const std::string& path) {
   struct stat file {};
-  if (stat(path.c_str(), &file) != 0) return std::nullopt;
+  if (stat(path.c_str(), &file) != 0 || !S_ISREG(file.st_mode)) return std::nullopt;
   return Identity{static_cast<int64_t>(file.st_ino), file.st_size, file.st_mtim.tv_sec,
                   file.st_mtim.tv_nsec};
 }
@@ -163,8 +214,10 @@ std::variant<StateStore::Opened, FabricError> StateStore::open(const std::string
   if (path.empty()) return opened;
   if (access(path.c_str(), F_OK) != 0 && errno == ENOENT) {
     if (auto error = problem_of_new_file(path)) return std::move(*error);
+    store.journal_file_ = identity_of(store.journal_path());  // left over from a removed file
     return opened;
   }
+  const FileLock lock(path);  // the file and the journal of one moment
   auto text = read_text_file(path);
   if (auto* error = std::get_if<FabricError>(&text)) return std::move(*error);
   auto parsed = parse_fabric(std::get<std::string>(text), path);
@@ -173,7 +226,8 @@ std::variant<StateStore::Opened, FabricError> StateStore::open(const std::string
   store.size_ = std::get<std::string>(text).size();
   opened.fabric = std::get<Fabric>(std::move(parsed));
   if (auto error = store.read_journal(*opened.fabric)) return std::move(*error);
-  store.remember_file();
+  store.file_ = identity_of(path);
+  store.journal_file_ = identity_of(store.journal_path());
   store.goes_on_ = true;
   return opened;
 }
@@ -202,14 +256,24 @@ std::optional<FabricError> StateStore::read_journal(Fabric& fabric) {
 
 std::optional<FabricError> StateStore::save(const Request& request, const Fabric& changed) {
   if (path_.empty()) return std::nullopt;
+  const FileLock lock(path_);
+  if (auto problem = problem_with_others()) return problem;
   const bool appends = goes_on_ && size_ > kSmallFile && journal_size_ < size_ && is_undisturbed();
   auto error = appends ? append(request) : write_anew(changed);
   goes_on_ = !error;
   return error;
 }
 
-void StateStore::remember_file() {
-  file_ = identity_of(path_);
+// A file that is gone, and one that was replaced by a copy of itself, hold no change that is not in
+// the fabric of this process.
+std::optional<FabricError> StateStore::problem_with_others() const {
+  const auto file = identity_of(path_);
+  const auto journal = identity_of(journal_path());
+  const bool same_file = !file || file == file_ || (file_ && has_checksum(path_, checksum_));
+  const bool same_journal = !journal || journal == journal_file_;
+  if (same_file && same_journal) return std::nullopt;
+  return FabricError{path_ +
+                     ": another process has changed it meanwhile; start again to go on from there"};
 }
 
 // False when the files are no longer those that this process wrote or read last.
@@ -231,16 +295,23 @@ std::optional<FabricError> StateStore::write_anew(const Fabric& changed) {
     // The line end in front closes one that was not written whole.
     const bool written =
         write_all(file, "\n" + record(std::string(kReplaced) + in_hex(checksum_of(text))));
+    const int error = errno;
     close(file);
+    journal_file_ = identity_of(journal);
+    errno = error;
     if (!written) return failure(journal);
   }
   if (auto error = save_text_file(text, path_)) return error;
+  // Who has found the new file since may have changed it already, or begun a journal for it: then
+  // they are not taken for this process's own.
+  const FileLock lock(path_);
   checksum_ = checksum_of(text);
   size_ = text.size();
   journal_size_ = 0;
-  remember_file();
+  if (has_checksum(path_, checksum_)) file_ = identity_of(path_);
   // One that stays is known by its last record.
-  unlink(journal.c_str());
+  if (is_replaced_by(text_of(journal), checksum_) && unlink(journal.c_str()) == 0)
+    journal_file_.reset();
   return std::nullopt;
 }
 
@@ -261,6 +332,12 @@ std::optional<FabricError> StateStore::start_journal() {
 }
 
 std::optional<FabricError> StateStore::append(const Request& request) {
+  auto error = append_to_journal(request);
+  journal_file_ = identity_of(journal_path());
+  return error;
+}
+
+std::optional<FabricError> StateStore::append_to_journal(const Request& request) {
   if (journal_ == nullptr) {
     if (auto error = start_journal()) {
       journal_.reset();

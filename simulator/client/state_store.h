@@ -40,7 +40,8 @@ class StateStore {
   // path is a store that keeps nothing.
   static std::variant<Opened, FabricError> open(const std::string& path);
 
-  // Keeps a fabric that came from the last one by answering the request.
+  // Keeps a fabric that came from the last one by answering the request. From the moment where
+  // another process has changed the file, every change is an error.
   std::optional<FabricError> save(const Request& request, const Fabric& changed);
 
   // The next fabric to be kept did not come from the last one.
@@ -55,21 +56,24 @@ class StateStore {
   // nanoseconds of its last change.
   using Identity = std::array<int64_t, 4>;
 
+  // Nothing for what is no regular file.
   static std::optional<Identity> identity_of(const std::string& path);
   std::string journal_path() const;
+  std::optional<FabricError> problem_with_others() const;
   std::optional<FabricError> read_journal(Fabric& fabric);
   std::optional<FabricError> write_anew(const Fabric& changed);
   std::optional<FabricError> append(const Request& request);
+  std::optional<FabricError> append_to_journal(const Request& request);
   std::optional<FabricError> start_journal();
   bool is_undisturbed() const;
-  void remember_file();
 
   std::string path_;              // empty: nothing is kept
   bool goes_on_ = false;          // the file and its journal tell the fabric as it is
   uint64_t checksum_ = 0;         // of the fabric file
   size_t size_ = 0;               // of the fabric file
   std::optional<Identity> file_;  // of the fabric file
-  size_t journal_size_ = 0;       // of what counts in the journal; 0: there is none
+  std::optional<Identity> journal_file_;
+  size_t journal_size_ = 0;  // of what counts in the journal; 0: there is none
   std::unique_ptr<FILE, Closer> journal_;
 };
 

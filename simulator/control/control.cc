@@ -90,6 +90,10 @@ std::optional<std::string> keep_state_in(const std::string& path) {
   return locked([&](Platform& platform) { return text_of(platform.keep_state_in(path)); });
 }
 
+void tell_problems_to(std::function<void(const std::string& problem)> listener) {
+  locked([&](Platform& platform) { platform.tell_problems_to(std::move(listener)); });
+}
+
 std::optional<std::string> use_switch_at(const std::string& path) {
   return locked([&](Platform& platform) { return platform.use_switch_at(path); });
 }
@@ -119,6 +123,7 @@ std::optional<std::string> serve(const std::string& path, int stop,
 void reset() {
   locked([](Platform& platform) {
     platform.keep_state_in("");
+    platform.tell_problems_to(nullptr);
     platform.install(switch_sim::default_fabric());
     platform.log().keep(false);
     platform.log().clear();

@@ -38,6 +38,10 @@ std::optional<std::string> save(const std::string& path);
 // to it before the change is acknowledged. An empty path ends that.
 std::optional<std::string> keep_state_in(const std::string& path);
 
+// Whom to tell why a change could not be saved, in place of standard error; nobody: standard error
+// again. Is called with the platform locked: it must not call a function of this file.
+void tell_problems_to(std::function<void(const std::string& problem)> listener);
+
 // Answers from the switch that another process serves at a socket (`serve`), as SWITCH_SIM_SOCKET
 // does it, until a fabric is installed or a state file chosen; an empty path ends it, too. The
 // serving process may start later. `fabric`, `fabric_text` and `save` then ask it, and throw
@@ -53,8 +57,9 @@ std::string connection_problem();
 std::optional<std::string> serve(const std::string& path, int stop,
                                  const std::function<void()>& serving);
 
-// Back to the default fabric, an empty log, no faults, no replay, no state file, no other process's
-// switch, counts at zero, a clock at zero, and counters that move. Queues stay bound.
+// Back to the default fabric, an empty log, no faults, no replay, no state file, no listener, no
+// other process's switch, counts at zero, a clock at zero, and counters that move. Queues stay
+// bound.
 void reset();
 
 // The environment could not be used (the text tells why), and every request is refused.

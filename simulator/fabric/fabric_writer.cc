@@ -126,11 +126,22 @@ std::string resolve(const std::string& path) {
   return result;
 }
 
+// A file that comes into being meanwhile is somebody else's: it is not replaced.
+bool move_to_its_place(const char* temporary, const char* path, bool replaces) {
+  if (!replaces) {
+    if (renameat2(AT_FDCWD, temporary, AT_FDCWD, path, RENAME_NOREPLACE) == 0) return true;
+    const bool unknown = errno == EINVAL || errno == ENOSYS;  // to this file system
+    if (!unknown) return false;
+  }
+  return rename(temporary, path) == 0;
+}
+
 bool replace_file(const std::string& path, std::string_view bytes) {
   std::string temporary = path + ".XXXXXX";
   const int file = mkostemp(temporary.data(), O_CLOEXEC);
   if (file < 0) return false;
   struct stat old {};
+  const bool replaces = lstat(path.c_str(), &old) == 0;
   const bool keeps_mode = stat(path.c_str(), &old) == 0;
   bool saved =
       write_durably(file, bytes) && (!keeps_mode || fchmod(file, old.st_mode & 07777) == 0);
@@ -139,7 +150,9 @@ bool replace_file(const std::string& path, std::string_view bytes) {
     saved = false;
     error = errno;
   }
-  if (saved && rename(temporary.c_str(), path.c_str()) == 0) return sync_folder(folder_of(path));
+  if (saved && move_to_its_place(temporary.c_str(), path.c_str(), replaces)) {
+    return sync_folder(folder_of(path));
+  }
   if (saved) error = errno;
   unlink(temporary.c_str());
   errno = error;

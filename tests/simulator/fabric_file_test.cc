@@ -1,6 +1,7 @@
 #include "simulator/fabric/fabric_file.h"
 
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <filesystem>
@@ -462,6 +463,19 @@ class FabricState : public SimulatorTest {
     return call(35, 878, 3, Pattern(260).text(0, name).bytes());
   }
 
+  // Another process that goes on from the file and renames the switch. True when that was
+  // acknowledged.
+  bool another_process_renames_to(const char* name) {
+    const pid_t child = fork();
+    if (child == 0) {
+      switch_sim::control::reset();
+      const bool opened = !switch_sim::control::keep_state_in(path);
+      _exit(opened && rename_switch(name).status == 0 ? 0 : 1);
+    }
+    int status = 0;
+    return waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+  }
+
   std::string path;
 };
 
@@ -516,6 +530,57 @@ TEST_F(FabricState, AChangeThatCannotBeSavedIsRefusedAndUndone) {
   EXPECT_EQ("switch simulator: a change was not saved: " + path + ": Is a directory\n",
             testing::internal::GetCapturedStderr());
   EXPECT_EQ(before, switch_sim::control::fabric());
+}
+
+std::string changed_meanwhile(const std::string& path) {
+  return "switch simulator: a change was not saved: " + path +
+         ": another process has changed it meanwhile; start again to go on from there\n";
+}
+
+TEST_F(FabricState, AChangeOfAnotherProcessIsNotReplaced) {
+  ASSERT_EQ(std::nullopt, switch_sim::control::keep_state_in(path));
+  EXPECT_EQ(0, rename_switch("edge-7").status);
+  ASSERT_TRUE(another_process_renames_to("edge-8"));
+  for (int i = 0; i < 2; ++i) {
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(kStateNotSaved, rename_switch("edge-9").status);
+    EXPECT_EQ(changed_meanwhile(path), testing::internal::GetCapturedStderr());
+  }
+  EXPECT_EQ("edge-7", switch_sim::control::fabric().switches.at(0).name);
+  ASSERT_EQ(std::nullopt, switch_sim::control::keep_state_in(path));
+  EXPECT_EQ("edge-8", switch_sim::control::fabric().switches.at(0).name);
+  EXPECT_EQ(0, rename_switch("edge-9").status);
+  EXPECT_EQ("edge-9", std::get<Fabric>(switch_sim::read_fabric_file(path)).switches.at(0).name);
+}
+
+TEST_F(FabricState, AFileThatAnotherProcessMadeMeanwhileIsNotReplaced) {
+  ASSERT_EQ(std::nullopt, switch_sim::control::keep_state_in(path));
+  ASSERT_TRUE(another_process_renames_to("edge-8"));
+  testing::internal::CaptureStderr();
+  EXPECT_EQ(kStateNotSaved, rename_switch("edge-9").status);
+  EXPECT_EQ(changed_meanwhile(path), testing::internal::GetCapturedStderr());
+  EXPECT_EQ("edge-8", std::get<Fabric>(switch_sim::read_fabric_file(path)).switches.at(0).name);
+}
+
+TEST_F(FabricState, AFileThatSomebodyRemovedIsWrittenAnew) {
+  ASSERT_EQ(std::nullopt, switch_sim::control::keep_state_in(path));
+  EXPECT_EQ(0, rename_switch("edge-7").status);
+  std::filesystem::remove(path);
+  EXPECT_EQ(0, rename_switch("edge-8").status);
+  EXPECT_EQ("edge-8", std::get<Fabric>(switch_sim::read_fabric_file(path)).switches.at(0).name);
+}
+
+TEST_F(FabricState, AListenerIsToldInPlaceOfStandardError) {
+  ASSERT_EQ(std::nullopt, switch_sim::control::keep_state_in(path));
+  std::filesystem::create_directory(path);
+  std::vector<std::string> told;
+  switch_sim::control::tell_problems_to(
+      [&told](const std::string& problem) { told.push_back(problem); });
+  testing::internal::CaptureStderr();
+  EXPECT_EQ(kStateNotSaved, rename_switch("edge-7").status);
+  switch_sim::control::tell_problems_to(nullptr);
+  EXPECT_EQ("", testing::internal::GetCapturedStderr());
+  EXPECT_EQ(std::vector<std::string>{"a change was not saved: " + path + ": Is a directory"}, told);
 }
 
 TEST_F(FabricState, AWrongStateFileIsToldAndNotOverwritten) {

@@ -280,6 +280,121 @@ TEST_F(StateJournal, AChangeThatCannotBeAppendedIsRefusedAndUndone) {
   EXPECT_EQ(kept, control::fabric());
 }
 
+// What runs in another process that goes on from the same files; false when it failed there.
+template <typename Work>
+bool in_another_process(const std::string& path, Work work) {
+  const pid_t child = fork();
+  if (child == 0) {
+    control::reset();
+    _exit(!control::keep_state_in(path) && work() ? 0 : 1);
+  }
+  int status = 0;
+  return waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+// Neither with a journal of one's own that is open, nor with one that was read, nor with none.
+TEST_F(StateJournal, AChangeThatAnotherProcessAppendedIsNeverCutOff) {
+  const auto refused = [this] {
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(kStateNotSaved, create("ours"));
+    EXPECT_EQ("switch simulator: a change was not saved: " + path +
+                  ": another process has changed it meanwhile; start again to go on from there\n",
+              testing::internal::GetCapturedStderr());
+  };
+  ASSERT_TRUE(in_another_process(path, [this] { return create("theirs_1") == 0; }));
+  refused();
+  ASSERT_EQ(std::nullopt, reload());
+  ASSERT_TRUE(in_another_process(path, [this] { return create("theirs_2") == 0; }));
+  refused();
+  ASSERT_EQ(std::nullopt, reload());
+  EXPECT_EQ(0, create("ours_3"));
+  ASSERT_TRUE(in_another_process(path, [this] { return create("theirs_3") == 0; }));
+  refused();
+  ASSERT_EQ(std::nullopt, reload());
+  for (const char* name : {"first", "theirs_1", "theirs_2", "ours_3", "theirs_3"})
+    EXPECT_TRUE(holds(name)) << name;
+  EXPECT_FALSE(holds("ours"));
+}
+
+TEST_F(StateJournal, AFileThatAnotherProcessWroteAnewIsNotReplaced) {
+  EXPECT_EQ(0, create("second"));
+  ASSERT_TRUE(in_another_process(path, [this] {
+    return !control::install(control::fabric()) && create("theirs") == 0;  // the file, as a whole
+  }));
+  EXPECT_FALSE(std::filesystem::exists(journal));
+  testing::internal::CaptureStderr();
+  EXPECT_EQ(kStateNotSaved, create("ours"));
+  testing::internal::GetCapturedStderr();
+  ASSERT_EQ(std::nullopt, reload());
+  EXPECT_TRUE(holds("second") && holds("theirs"));
+}
+
+TEST_F(StateJournal, AJournalLeftBehindByARemovedFileIsNobodysChange) {
+  EXPECT_EQ(0, create("second"));
+  std::filesystem::remove(path);
+  ASSERT_EQ(std::nullopt, control::install_generated(kLargeFabric));
+  ASSERT_EQ(std::nullopt, control::keep_state_in(path));
+  EXPECT_EQ(0, create("third"));
+  EXPECT_FALSE(std::filesystem::exists(journal));
+  ASSERT_EQ(std::nullopt, reload());
+  EXPECT_TRUE(holds("third"));
+  EXPECT_FALSE(holds("second"));
+}
+
+// Each goes on from the file as it is, makes one change, and tells whether it was acknowledged.
+void change_and_tell_often(const std::string& path, int out, int client, int32_t q) {
+  uint8_t context[132] = {};
+  for (int i = 0; i < 40; ++i) {
+    control::reset();
+    if (control::keep_state_in(path)) _exit(1);
+    const std::string name = "p" + std::to_string(client) + "_" + std::to_string(i);
+    if (zs_cmi_create_zoning_object(q, 1, 1, 0, -1, name.c_str(), "", "", context) != 0) continue;
+    const std::string line = name + "\n";
+    if (write(out, line.data(), line.size()) < 0) _exit(1);
+  }
+  _exit(0);
+}
+
+TEST_F(StateJournal, EveryAcknowledgedChangeOfFourProcessesIsThere) {
+  for (const char* start : {"switches=2,vsans=1", kLargeFabric}) {
+    SCOPED_TRACE(start);
+    std::filesystem::remove(path);
+    std::filesystem::remove(journal);
+    ASSERT_EQ(std::nullopt, control::install_generated(start));
+    ASSERT_EQ(std::nullopt, control::save(path));
+    int ends[2];
+    ASSERT_EQ(0, pipe(ends));
+    std::vector<pid_t> children;
+    for (int client = 0; client < 4; ++client) {
+      const pid_t child = fork();
+      if (child == 0) {
+        close(ends[0]);
+        // The refused changes tell why on standard error.
+        if (freopen("/dev/null", "w", stderr) == nullptr) _exit(1);
+        change_and_tell_often(path, ends[1], client, q);
+      }
+      children.push_back(child);
+    }
+    close(ends[1]);
+    std::string told;
+    char block[4096];
+    for (ssize_t count = 0; (count = read(ends[0], block, sizeof block)) > 0;)
+      told.append(block, static_cast<size_t>(count));
+    close(ends[0]);
+    for (const pid_t child : children) {
+      int status = 0;
+      ASSERT_EQ(child, waitpid(child, &status, 0));
+      EXPECT_EQ(0, status);
+    }
+    ASSERT_EQ(std::nullopt, reload());
+    std::istringstream names(told);
+    size_t acknowledged = 0;
+    for (std::string name; std::getline(names, name); ++acknowledged)
+      EXPECT_TRUE(holds(name)) << name;
+    EXPECT_GT(acknowledged, 0U);
+  }
+}
+
 TEST_F(StateJournal, TheJournalStandsBesideTheFileThatALinkPointsTo) {
   std::filesystem::rename(path, folder + "/real.json");
   std::filesystem::create_symlink("real.json", path);

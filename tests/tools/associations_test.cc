@@ -67,6 +67,23 @@ TEST_F(Associations, Filters_that_nothing_can_pass_are_slips) {
                {"associator-names", kFabric, "--result-role", "Xyzzy"});
 }
 
+TEST_F(Associations, Classes_of_associations_are_associations) {
+  expect_error(2, "--assoc-class: VEXOR_Vsan is no association",
+               {"associators", kFabric, "--assoc-class", "VEXOR_Vsan"});
+  expect_error(2, "--result-class: VEXOR_Vsan is no association",
+               {"references", kFabric, "--result-class", "VEXOR_Vsan"});
+  expect_error(2, "--result-class: VEXOR_Vsan is no association",
+               {"reference-names", kFabric, "--result-class", "VEXOR_Vsan"});
+  expect_error(1, "VEXOR_Vsna: no such class (did you mean VEXOR_Vsan?)",
+               {"references", kFabric, "--result-class", "VEXOR_Vsna"});
+}
+
+TEST_F(Associations, An_object_that_is_not_there_is_an_error) {
+  for (const char* command : {"associators", "associator-names", "references", "reference-names"})
+    expect_error(1, "there is no such VEXOR_AdminDomain",
+                 {command, "VEXOR_AdminDomain.Name=\"2009000DEC0A1B2D\""});
+}
+
 TEST_F(Associations, Properties_are_those_of_what_is_shown) {
   expect_error(2, "no association has a property GroupComponen (did you mean GroupComponent?)",
                {"references", kFabric, "--properties", "GroupComponen"});

@@ -69,6 +69,21 @@ TEST_F(Changes, A_method_of_an_instance_that_is_not_there_is_refused) {
                {"invoke", "VEXOR_Vsan.Name=\"x\"", "RequestStateChange", "RequestedState=3"});
 }
 
+TEST_F(Changes, A_change_that_cannot_be_saved_says_why) {
+  const TemporaryFolder folder;
+  const std::string state = (folder.path() / "state.json").string();
+  fs::create_directory(state + ".journal");  // in the way of the file's journal
+  const Outcome outcome = run({"--state", state, "modify", kSettings, "PreferredDomainID=12"});
+  EXPECT_EQ(outcome.err,
+            "vexor-cim: a change was not saved: " + state +
+                ".journal: Is a directory\n"
+                "vexor-cim: VEXOR_FCSwitchSettings: the domain manager refuses the domain ID "
+                "(status 1073807370)\n");
+  EXPECT_EQ(outcome.out, "");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_FALSE(fs::exists(state));
+}
+
 // --- modify --------------------------------------------------------------------------------------
 
 TEST_F(Changes, Modified_properties_are_there_in_the_next_run) {

@@ -77,10 +77,40 @@ TEST_F(Errors, Arguments_must_be_there_and_known) {
   expect_error(2, std::string("NAME is required") + kSeeHelp, {"class"});
   expect_error(2, std::string("CLASS is required") + kSeeHelp, {"enumerate"});
   expect_error(2, std::string("PATH is required") + kSeeHelp, {"get"});
-  expect_error(2, std::string("The following argument was not expected: B") + kSeeHelp,
+  expect_error(2, std::string("the argument B is one too many") + kSeeHelp,
                {"enumerate", "A", "B"});
-  expect_error(2, std::string("The following argument was not expected: --nothing") + kSeeHelp,
-               {"--nothing", "classes"});
+  expect_error(2, std::string("no option --nothing") + kSeeHelp, {"--nothing", "classes"});
+}
+
+TEST_F(Errors, An_unknown_option_comes_with_the_one_that_was_meant) {
+  expect_error(2, std::string("no option --propertie (did you mean --properties?)") + kSeeHelp,
+               {"enumerate", "VEXOR_Vsan", "--propertie", "Name"});
+  expect_error(2, std::string("no option --namespce (did you mean --namespace?)") + kSeeHelp,
+               {"ports", "--namespce", "root/cimv2"});
+  expect_error(2, std::string("no option -z") + kSeeHelp, {"classes", "-z"});
+}
+
+TEST_F(Errors, An_option_has_one_value) {
+  expect_error(2, std::string("--format: its value is missing") + kSeeHelp,
+               {"enumerate", "VEXOR_Vsan", "--format"});
+  expect_error(2, std::string("--format is given twice") + kSeeHelp,
+               {"enumerate", "VEXOR_Vsan", "--format", "json", "--format", "json"});
+}
+
+TEST_F(Errors, Empty_names_are_missing_ones) {
+  for (const char* option : {"--trace", "--mof", "--providers", "--fabric", "--state"})
+    expect_error(2, std::string(option) + ": the name of the file is missing" + kSeeHelp,
+                 {option, "", "classes"});
+  expect_error(2, std::string("--namespace: the name is missing") + kSeeHelp,
+               {"--namespace", "", "classes"});
+  expect_error(2, std::string("CLASS: the name of the class is missing") + kSeeHelp,
+               {"enumerate", ""});
+  expect_error(2, std::string("NAME: the name of the class is missing") + kSeeHelp, {"class", ""});
+}
+
+TEST_F(Errors, Traces_go_to_one_place) {
+  expect_error(2, std::string("--trace and --verbose both say where the traces go") + kSeeHelp,
+               {"-v", "--trace", "/nonexistent/t", "classes"});
 }
 
 TEST_F(Errors, Formats_are_table_mof_and_json) {
@@ -158,6 +188,14 @@ TEST_F(Errors, A_provider_library_that_does_not_load_is_an_error) {
 TEST_F(Errors, A_trace_file_that_cannot_be_written_is_refused) {
   expect_error(2, "trace file /nonexistent/t cannot be written: No such file or directory",
                {"--trace", "/nonexistent/t", "enumerate", "VEXOR_Vsan"});
+}
+
+TEST_F(Errors, Traces_that_did_not_arrive_are_an_error_beside_the_results) {
+  const Outcome outcome = run({"--trace", "/dev/full", "enumerate", "VEXOR_Vsan"});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.out, screen("enumerate_vsan.txt"));
+  EXPECT_EQ(outcome.err,
+            "vexor-cim: trace file /dev/full cannot be written: No space left on device\n");
 }
 
 TEST_F(Errors, A_closed_standard_output_is_refused) {
