@@ -26,6 +26,7 @@ constexpr const char* kExamples =
     "  vexor-cim enumerate VEXOR_Vsan --format json    the same for a program\n"
     "  vexor-cim enumerate VEXOR_Vsan --names          the paths that `get` takes\n"
     "  vexor-cim ports                                 the ports and what is plugged in\n"
+    "  vexor-cim modules                               the chassis and its modules\n"
     "  vexor-cim get 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"'\n"
     "  vexor-cim associators 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"'\n"
     "  vexor-cim modify 'VEXOR_FCSwitchSettings.InstanceID=\"2000000DEC0A1B2C\"' "
@@ -83,6 +84,18 @@ constexpr const char* kPortsExamples =
     "  vexor-cim enumerate VEXOR_FCPortStatistics      what the ports have counted\n"
     "  vexor-cim modify 'VEXOR_FCPortSettings.InstanceID=\"16842753\"' "
     "RequestedSpeed=1062500000";
+
+constexpr const char* kModulesExamples =
+    "What the switch is made of: a line for its chassis, and one for each module.\n"
+    "  slot    counted from 1\n"
+    "  status  as the switch tells it, some texts cut short: OK, DISABLED, POWEREDDOWN, FAILED "
+    "...\n"
+    "  ports   how many the module has, of each kind\n"
+    "\n"
+    "Examples:\n"
+    "  vexor-cim modules\n"
+    "  vexor-cim enumerate VEXOR_LogicalModule         all that CIM tells of the modules\n"
+    "  vexor-cim enumerate VEXOR_PhysicalElement       the physical side of each interface";
 
 constexpr const char* kAssociatorsExamples =
     "Examples:\n"
@@ -318,6 +331,8 @@ void add_reading_commands(Commands& commands, Options& options) {
 
   commands.add(Command::ports, "ports", "print the ports of the switch and what is plugged in",
                kPortsExamples);
+  commands.add(Command::modules, "modules", "print the chassis of the switch and its modules",
+               kModulesExamples);
 
   CLI::App& get = commands.add(Command::get, "get", "print one instance", kGetExamples);
   add_path(get, options);

@@ -16,6 +16,7 @@ enum class Command {
   enumerate,
   get,
   ports,
+  modules,
   associators,
   associator_names,
   references,

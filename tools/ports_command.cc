@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "host/cim_error.h"
+#include "tools/instance_values.h"
 #include "tools/output.h"
 
 namespace vexor::tools {
@@ -22,25 +23,12 @@ using cim::host::ObjectPath;
 constexpr const char* kFcPort = "VEXOR_FCPort";
 constexpr const char* kEthernetPort = "VEXOR_EthernetPort";
 constexpr const char* kDeviceSwitch = "VEXOR_PhysicalComputerSystem";
-constexpr const char* kNothing = "--";
 
 // CIM port types.
 constexpr std::uint64_t kE = 14;
 constexpr std::uint64_t kF = 15;
 constexpr std::uint64_t kFl = 16;
 constexpr std::uint64_t kPortChannel = 16004;
-
-std::string text_of(const Instance& instance, std::string_view property) {
-  const Data* data = instance.find(property);
-  const auto* text = data == nullptr ? nullptr : std::get_if<std::string>(&data->element);
-  return text == nullptr ? std::string() : *text;
-}
-
-std::optional<std::uint64_t> number_of(const Instance& instance, std::string_view property) {
-  const Data* data = instance.find(property);
-  const auto* number = data == nullptr ? nullptr : std::get_if<std::uint64_t>(&data->element);
-  return number == nullptr ? std::nullopt : std::optional(*number);
-}
 
 bool holds(const Instance& instance, std::string_view property, std::uint64_t number) {
   const Data* data = instance.find(property);

@@ -15,6 +15,7 @@
 #include "tools/exit_status.h"
 #include "tools/input.h"
 #include "tools/locations.h"
+#include "tools/modules_command.h"
 #include "tools/output.h"
 #include "tools/platform.h"
 #include "tools/ports_command.h"
@@ -330,6 +331,8 @@ Outcome run_command(ObjectManager& manager, const Options& options) {
       return {get(manager, options)};
     case Command::ports:
       return {ports_table(manager, options.name_space)};
+    case Command::modules:
+      return {modules_table(manager, options.name_space)};
     case Command::associators:
     case Command::references:
       return {associated(manager, options)};

@@ -344,7 +344,7 @@ TEST_F(StateJournal, AJournalLeftBehindByARemovedFileIsNobodysChange) {
 // Each goes on from the file as it is, makes one change, and tells whether it was acknowledged.
 void change_and_tell_often(const std::string& path, int out, int client, int32_t q) {
   uint8_t context[132] = {};
-  for (int i = 0; i < 40; ++i) {
+  for (int i = 0; i < 12; ++i) {
     control::reset();
     if (control::keep_state_in(path)) _exit(1);
     const std::string name = "p" + std::to_string(client) + "_" + std::to_string(i);
