@@ -93,6 +93,8 @@ void call_provider(const schema::Class& cls, Call&& call) {
   } catch (const std::exception& error) {
     throw CimError(CMPI_RC_ERR_FAILED,
                    cls.name + ": the provider failed: " + std::string(error.what()));
+  } catch (...) {
+    throw CimError(CMPI_RC_ERR_FAILED, cls.name + ": the provider failed");
   }
   if (status.rc == CMPI_RC_OK) return;
   const std::string text = status_text(status);

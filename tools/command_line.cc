@@ -149,10 +149,13 @@ constexpr const char* kModifyExamples =
 
 constexpr const char* kCreateExamples =
     "Prints the path of what was made. Values are as for modify. A provider that makes no\n"
-    "instances of the class refuses.\n"
+    "instances of the class refuses: of the classes of the agent, the two associations of zoning\n"
+    "can be created. Zone sets, zones and members are made by methods of VEXOR_ZoneService.\n"
     "\n"
     "Example:\n"
-    "  vexor-cim create VEXOR_Vsan VsanId=30 ElementName=backup";
+    "  vexor-cim create VEXOR_ZoneElementSettingData \\\n"
+    "      ManagedElement='VEXOR_Zone.InstanceID=\"1_2_0\"' \\\n"
+    "      SettingData='VEXOR_ZoneMemberSettingData.InstanceID=\"1^2^2100001122334401^0\"'";
 
 #if VEXOR_WITH_SIMULATOR
 constexpr const char* kFabricExamples =
@@ -175,10 +178,12 @@ constexpr const char* kSwitchExamples =
 #endif
 
 constexpr const char* kDeleteExamples =
-    "A provider that deletes no instances of the class refuses.\n"
+    "A provider that deletes no instances of the class refuses: of the classes of the agent, "
+    "those\n"
+    "of zoning can be deleted.\n"
     "\n"
     "Example:\n"
-    "  vexor-cim delete 'VEXOR_Vsan.Name=\"2001000DEC0A1B2D\"'";
+    "  vexor-cim delete 'VEXOR_Zone.InstanceID=\"1_2_0\"'";
 
 /// An empty text is as a rule a variable of a script that was not set.
 CLI::Validator not_empty(const char* what) {

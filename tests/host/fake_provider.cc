@@ -66,6 +66,8 @@ bool fails(CMPIStatus* status) {
       return true;
     case FakeMode::throws:
       throw std::runtime_error("out of luck");
+    case FakeMode::throws_a_number:
+      throw 7;
     case FakeMode::returns_nothing:
       *status = ok();
       return true;

@@ -9,6 +9,7 @@ enum class FakeMode {
   fails,               ///< every operation answers with `status` and `message`
   fails_without_text,  ///< the same without a text
   throws,              ///< a C++ exception
+  throws_a_number,     ///< what no handler of std::exception catches
   returns_after_done,
   returns_wrong_kind,  ///< an instance where a path is due, and the reverse
   returns_nothing,

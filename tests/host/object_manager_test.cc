@@ -133,6 +133,12 @@ TEST_F(Enumerate, An_exception_of_the_provider_is_a_failure) {
       std::pair(CMPI_RC_ERR_FAILED, std::string("Test_Disk: the provider failed: out of luck")));
 }
 
+TEST_F(Enumerate, Whatever_a_provider_throws_is_a_failure) {
+  fake().mode = FakeMode::throws_a_number;
+  EXPECT_EQ(error_of([&] { manager_->enumerate_instances("root/test", "Test_Disk"); }),
+            std::pair(CMPI_RC_ERR_FAILED, std::string("Test_Disk: the provider failed")));
+}
+
 TEST_F(Enumerate, Takes_nothing_after_the_provider_is_done) {
   fake().mode = FakeMode::returns_after_done;
   EXPECT_EQ(manager_->enumerate_instances("root/test", "Test_FastDisk").size(), 1U);
