@@ -137,17 +137,40 @@ void Platform::freeze_counters(bool on) {
   }
 }
 
-// A change counts only once it is saved.
+// A change counts only once it is saved. It is made on what the state file holds at that moment,
+// which may be more than this process has put there.
 Outcome Platform::change(const Request& request) {
-  Fabric changed = fabric_;
-  Outcome outcome = answer(request, changed, clock_.now());
-  if (outcome.status != status::kOk || changed == fabric_) return outcome;
-  if (auto error = state_.save(request, changed)) {
-    tell("a change was not saved: " + error->message);
-    return services::refuse(status::kStateNotSaved);
+  constexpr int kMostTries = 1000;  // each of them because another process was faster
+  std::optional<FabricError> error;
+  for (int i = 0; i < kMostTries; ++i) {
+    error = catch_up();
+    if (error) break;
+    Fabric changed = fabric_;
+    Outcome outcome = answer(request, changed, clock_.now());
+    if (outcome.status != status::kOk || changed == fabric_) return outcome;
+    error = state_.save(request, changed);
+    if (!error) {
+      fabric_ = std::move(changed);
+      return outcome;
+    }
+    if (!state_.is_behind()) break;
   }
-  fabric_ = std::move(changed);
-  return outcome;
+  tell("a change was not saved: " + error->message);
+  return services::refuse(status::kStateNotSaved);
+}
+
+std::optional<FabricError> Platform::catch_up() {
+  if (!state_.is_behind()) return std::nullopt;
+  if (state_.has_differed()) {
+    return FabricError{state_.path() +
+                       ": another process has changed it, and this one has another fabric"};
+  }
+  auto opened = StateStore::open(state_.path());
+  if (auto* error = std::get_if<FabricError>(&opened)) return std::move(*error);
+  auto& [store, fabric] = std::get<StateStore::Opened>(opened);
+  if (fabric) fabric_ = std::move(*fabric);
+  state_ = std::move(store);
+  return std::nullopt;
 }
 
 void Platform::tell(const std::string& problem) const {

@@ -129,6 +129,7 @@ class Platform {
   std::unique_ptr<Carrier> open_carrier();
   Outcome handle(const Request& request);
   Outcome change(const Request& request);
+  std::optional<FabricError> catch_up();
   void tell(const std::string& problem) const;
   VirtualTime time_of(const Request& request) const;
   Outcome exchange(std::unique_ptr<Carrier>& carrier, const Request& request);

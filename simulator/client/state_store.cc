@@ -261,19 +261,20 @@ std::optional<FabricError> StateStore::save(const Request& request, const Fabric
   const bool appends = goes_on_ && size_ > kSmallFile && journal_size_ < size_ && is_undisturbed();
   auto error = appends ? append(request) : write_anew(changed);
   goes_on_ = !error;
+  if (!error) differs_ = false;
   return error;
 }
 
 // A file that is gone, and one that was replaced by a copy of itself, hold no change that is not in
 // the fabric of this process.
 std::optional<FabricError> StateStore::problem_with_others() const {
+  if (path_.empty()) return std::nullopt;
   const auto file = identity_of(path_);
   const auto journal = identity_of(journal_path());
   const bool same_file = !file || file == file_ || (file_ && has_checksum(path_, checksum_));
   const bool same_journal = !journal || journal == journal_file_;
   if (same_file && same_journal) return std::nullopt;
-  return FabricError{path_ +
-                     ": another process has changed it meanwhile; start again to go on from there"};
+  return FabricError{path_ + ": another process has changed it meanwhile"};
 }
 
 // False when the files are no longer those that this process wrote or read last.

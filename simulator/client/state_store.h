@@ -40,12 +40,21 @@ class StateStore {
   // path is a store that keeps nothing.
   static std::variant<Opened, FabricError> open(const std::string& path);
 
-  // Keeps a fabric that came from the last one by answering the request. From the moment where
-  // another process has changed the file, every change is an error.
+  // Keeps a fabric that came from the last one by answering the request; an error while
+  // `is_behind`.
   std::optional<FabricError> save(const Request& request, const Fabric& changed);
 
+  // Another process has changed the file since: open it again.
+  bool is_behind() const { return problem_with_others().has_value(); }
+
   // The next fabric to be kept did not come from the last one.
-  void differs() { goes_on_ = false; }
+  void differs() {
+    goes_on_ = false;
+    differs_ = true;
+  }
+  // Since the last one that was kept.
+  bool has_differed() const { return differs_; }
+  const std::string& path() const { return path_; }
 
  private:
   struct Closer {
@@ -67,8 +76,9 @@ class StateStore {
   std::optional<FabricError> start_journal();
   bool is_undisturbed() const;
 
-  std::string path_;              // empty: nothing is kept
-  bool goes_on_ = false;          // the file and its journal tell the fabric as it is
+  std::string path_;      // empty: nothing is kept
+  bool goes_on_ = false;  // the file and its journal tell the fabric as it is
+  bool differs_ = false;
   uint64_t checksum_ = 0;         // of the fabric file
   size_t size_ = 0;               // of the fabric file
   std::optional<Identity> file_;  // of the fabric file

@@ -166,6 +166,26 @@ TEST_F(PegasusSwitch, APropertyThatTheClassLacksIsDroppedAndNamed) {
             "ProviderUtil::addQualifiers() - Exit\n");
 }
 
+TEST_F(PegasusSwitch, ABuiltInstanceComesBackWithoutWhatItsClassLacks) {
+  classes_.define("VEXOR_OldVsan", {"Name", "CreationClassName"}, {"ElementName"});
+  const CIMInstance vsan =
+      ProviderUtil::vsan_build_instance("VEXOR_OldVsan", kNamespace, &vsan_, &conf_);
+  ASSERT_EQ(vsan.getPropertyCount(), 3u);
+  EXPECT_TRUE(vsan.getProperty(0).getName().equal(CIMName("Name")));
+  EXPECT_TRUE(vsan.getProperty(1).getName().equal(CIMName("ElementName")));
+  EXPECT_TRUE(vsan.getProperty(2).getName().equal(CIMName("CreationClassName")));
+  EXPECT_NE(
+      out_.out().find("ProviderUtil::addQualifiers() - Start\n"
+                      "ProviderUtil::addQualifiers() - NO SUCH property exception: NameFormat\n"
+                      "ProviderUtil::addQualifiers() - NO SUCH property exception: VsanId\n"
+                      "ProviderUtil::addQualifiers() - NO SUCH property exception: Status\n"
+                      "ProviderUtil::addQualifiers() - NO SUCH property exception: "
+                      "LoadBalancingType\n"
+                      "ProviderUtil::addQualifiers() - Exit\n"),
+      std::string::npos)
+      << out_.out();
+}
+
 TEST_F(PegasusSwitch, AClassThatCannotBeHadLeavesTheInstanceAsItWas) {
   CIMInstance instance{CIMName("VEXOR_Nowhere")};
   instance.addProperty(CIMProperty(CIMName("Name"), CIMValue(String("y"))));

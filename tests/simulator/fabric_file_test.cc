@@ -463,6 +463,10 @@ class FabricState : public SimulatorTest {
     return call(35, 878, 3, Pattern(260).text(0, name).bytes());
   }
 
+  Result set_speed_of_fc1_1() {
+    return call(34, 0x11002, 3, Pattern(12).at(0, "0101000100000003000003e8").bytes());
+  }
+
   // Another process that goes on from the file and renames the switch. True when that was
   // acknowledged.
   bool another_process_renames_to(const char* name) {
@@ -532,33 +536,57 @@ TEST_F(FabricState, AChangeThatCannotBeSavedIsRefusedAndUndone) {
   EXPECT_EQ(before, switch_sim::control::fabric());
 }
 
-std::string changed_meanwhile(const std::string& path) {
-  return "switch simulator: a change was not saved: " + path +
-         ": another process has changed it meanwhile; start again to go on from there\n";
-}
-
-TEST_F(FabricState, AChangeOfAnotherProcessIsNotReplaced) {
+TEST_F(FabricState, AChangeIsMadeOnWhatAnotherProcessHasSaved) {
   ASSERT_EQ(std::nullopt, switch_sim::control::keep_state_in(path));
   EXPECT_EQ(0, rename_switch("edge-7").status);
   ASSERT_TRUE(another_process_renames_to("edge-8"));
-  for (int i = 0; i < 2; ++i) {
-    testing::internal::CaptureStderr();
-    EXPECT_EQ(kStateNotSaved, rename_switch("edge-9").status);
-    EXPECT_EQ(changed_meanwhile(path), testing::internal::GetCapturedStderr());
-  }
   EXPECT_EQ("edge-7", switch_sim::control::fabric().switches.at(0).name);
-  ASSERT_EQ(std::nullopt, switch_sim::control::keep_state_in(path));
+  EXPECT_EQ(0, set_speed_of_fc1_1().status);
   EXPECT_EQ("edge-8", switch_sim::control::fabric().switches.at(0).name);
-  EXPECT_EQ(0, rename_switch("edge-9").status);
-  EXPECT_EQ("edge-9", std::get<Fabric>(switch_sim::read_fabric_file(path)).switches.at(0).name);
+  const auto saved = std::get<Fabric>(switch_sim::read_fabric_file(path));
+  EXPECT_EQ("edge-8", saved.switches.at(0).name);
+  EXPECT_EQ(switch_sim::control::fabric(), saved);
+  EXPECT_NE(std::string::npos, content(path).find("\"mode\": \"auto\", \"speed\": 1000, "));
 }
 
-TEST_F(FabricState, AFileThatAnotherProcessMadeMeanwhileIsNotReplaced) {
+TEST_F(FabricState, AChangeBackToWhatThisProcessKnewIsSavedAllTheSame) {
   ASSERT_EQ(std::nullopt, switch_sim::control::keep_state_in(path));
+  EXPECT_EQ(0, rename_switch("edge-7").status);
+  ASSERT_TRUE(another_process_renames_to("edge-8"));
+  EXPECT_EQ(0, rename_switch("edge-7").status);
+  EXPECT_EQ("edge-7", std::get<Fabric>(switch_sim::read_fabric_file(path)).switches.at(0).name);
+}
+
+TEST_F(FabricState, AFileThatAnotherProcessMadeMeanwhileIsGoneOnFrom) {
+  ASSERT_EQ(std::nullopt, switch_sim::control::keep_state_in(path));
+  ASSERT_TRUE(another_process_renames_to("edge-8"));
+  EXPECT_EQ(0, set_speed_of_fc1_1().status);
+  EXPECT_EQ("edge-8", std::get<Fabric>(switch_sim::read_fabric_file(path)).switches.at(0).name);
+}
+
+TEST_F(FabricState, AFileThatCannotBeGoneOnFromAnyMoreIsToldAndNotReplaced) {
+  ASSERT_EQ(std::nullopt, switch_sim::control::keep_state_in(path));
+  EXPECT_EQ(0, rename_switch("edge-7").status);
+  std::ofstream(path) << "{}";
+  testing::internal::CaptureStderr();
+  EXPECT_EQ(kStateNotSaved, rename_switch("edge-8").status);
+  EXPECT_EQ(
+      "switch simulator: a change was not saved: " + path + ":1:1: the fabric lacks \"version\"\n",
+      testing::internal::GetCapturedStderr());
+  EXPECT_EQ("{}", content(path));
+  EXPECT_EQ("edge-7", switch_sim::control::fabric().switches.at(0).name);
+}
+
+TEST_F(FabricState, AnInstalledFabricDoesNotReplaceAChangeOfAnotherProcess) {
+  ASSERT_EQ(std::nullopt, switch_sim::control::keep_state_in(path));
+  EXPECT_EQ(0, rename_switch("edge-7").status);
+  ASSERT_EQ(std::nullopt, switch_sim::control::install(switch_sim::control::fabric()));
   ASSERT_TRUE(another_process_renames_to("edge-8"));
   testing::internal::CaptureStderr();
   EXPECT_EQ(kStateNotSaved, rename_switch("edge-9").status);
-  EXPECT_EQ(changed_meanwhile(path), testing::internal::GetCapturedStderr());
+  EXPECT_EQ("switch simulator: a change was not saved: " + path +
+                ": another process has changed it, and this one has another fabric\n",
+            testing::internal::GetCapturedStderr());
   EXPECT_EQ("edge-8", std::get<Fabric>(switch_sim::read_fabric_file(path)).switches.at(0).name);
 }
 

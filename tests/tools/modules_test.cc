@@ -9,8 +9,8 @@ class Modules : public ProgramTest {
   /// What is printed of one switch with this chassis and these modules.
   std::string table_of(const std::string& chassis, const std::string& modules) const {
     const std::string fabric =
-        R"({"version": 1, "local_switch": "core-1", "vsans": [], "switches": [
-             {"name": "core-1", "wwn": "20:00:00:0d:ec:0a:1b:2c", "software_version": "3.1(2a)")" +
+        R"json({"version": 1, "local_switch": "core-1", "vsans": [], "switches": [
+             {"name": "core-1", "wwn": "20:00:00:0d:ec:0a:1b:2c", "software_version": "3.1(2a)")json" +
         chassis + R"(, "modules": [)" + modules + "]}]}";
     const Outcome outcome = run({"--fabric", folder_.write("f.json", fabric).string(), "modules"});
     EXPECT_EQ(outcome.err, "");
