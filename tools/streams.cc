@@ -25,10 +25,30 @@ int duplicate(int descriptor) {
   return fcntl(descriptor, F_DUPFD_CLOEXEC, 3);
 }
 
+/// What files and command lines hold must not break the line or command the terminal.
+std::string printable(std::string_view text) {
+  constexpr const char* kDigits = "0123456789ABCDEF";
+  std::string result;
+  for (const char character : text) {
+    const auto byte = static_cast<unsigned char>(character);
+    if (byte >= 0x20 && byte != 0x7F) {
+      result += character;
+    } else {
+      result.append("\\x").append(1, kDigits[byte >> 4]).append(1, kDigits[byte & 15]);
+    }
+  }
+  return result;
+}
+
+std::string name_of(const TraceSink& sink) {
+  return sink.file.empty() ? "/dev/null" : sink.file;
+}
+
 int open_sink(const TraceSink& sink, int real_errors) {
   if (sink.to_standard_error) return duplicate(real_errors);
-  const char* const name = sink.file.empty() ? "/dev/null" : sink.file.c_str();
-  const int opened = ::open(name, O_WRONLY | O_CREAT | O_TRUNC | O_APPEND | O_CLOEXEC, 0644);
+  const std::string name = name_of(sink);
+  const int opened =
+      ::open(name.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_APPEND | O_CLOEXEC, 0644);
   if (opened < 0 || opened > 2) return opened;
   const int moved = duplicate(opened);
   close(opened);
@@ -55,7 +75,7 @@ std::string Streams::open(const TraceSink& sink) {
     const std::string why = reason(errno);
     close(real_results);
     close(real_errors);
-    return "trace file " + sink.file + " cannot be written: " + why;
+    return "trace file " + name_of(sink) + " cannot be written: " + why;
   }
   results_ = fdopen(real_results, "w");
   errors_ = fdopen(real_errors, "w");
@@ -77,7 +97,7 @@ void Streams::result(std::string_view text) {
 }
 
 void Streams::error(std::string_view text) {
-  std::fprintf(errors_, "vexor-cim: %.*s\n", static_cast<int>(text.size()), text.data());
+  std::fprintf(errors_, "vexor-cim: %s\n", printable(text).c_str());
 }
 
 void Streams::flush() {

@@ -1,4 +1,5 @@
 // vexor-cim: the CIM providers of the switch on the command line.
+#include <csignal>
 #include <cstdio>
 #include <exception>
 #include <optional>
@@ -390,6 +391,8 @@ int finished(Streams& streams, int status) {
 }
 
 int run_program(int argc, const char* const* argv) {
+  // A file that may not grow is an error of the writer like any other.
+  std::signal(SIGXFSZ, SIG_IGN);
   Streams streams;
   const Parsed parsed = parse_command_line(argc, argv);
   if (!parsed.options) {

@@ -84,6 +84,19 @@ TEST_F(Changes, A_change_that_cannot_be_saved_says_why) {
   EXPECT_FALSE(fs::exists(state));
 }
 
+TEST_F(Changes, A_file_that_may_not_grow_is_an_error_and_leaves_no_other) {
+  const TemporaryFolder folder;
+  const std::string state = (folder.path() / "state.json").string();
+  // The largest file, in blocks of 512 or 1,024 bytes: enough for what the program prints.
+  const Outcome outcome =
+      run_file("/bin/sh", {"-c", "ulimit -f 2; exec \"$@\"", "sh", VEXOR_CIM, "--state", state,
+                           "modify", kSettings, "PreferredDomainID=12"});
+  EXPECT_EQ(outcome.err.substr(0, outcome.err.find('\n')),
+            "vexor-cim: a change was not saved: " + state + ": File too large");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_TRUE(fs::is_empty(folder.path()));
+}
+
 // --- modify --------------------------------------------------------------------------------------
 
 TEST_F(Changes, Modified_properties_are_there_in_the_next_run) {

@@ -152,6 +152,12 @@ TEST_F(Errors, A_path_that_is_none_is_refused_with_the_column) {
   expect_error(2, ": column 1: the path is empty", {"get", ""});
 }
 
+TEST_F(Errors, Control_characters_neither_break_the_line_nor_reach_the_terminal) {
+  expect_error(2, std::string("no command \\x1B[31mred\\x0A\\x7F") + kSeeHelp,
+               {"\x1B[31mred\n\x7F"});
+  expect_error(1, "K\u00f6ln: no such class", {"class", "K\u00f6ln"});
+}
+
 // --- Exit status 2: files ------------------------------------------------------------------------
 
 TEST_F(Errors, Named_files_must_be_there) {
