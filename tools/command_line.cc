@@ -49,7 +49,17 @@ constexpr const char* kStatus =
     "\n"
     "Exit status: 0 success; 1 the operation failed or was refused, or the method returned\n"
     "another number than 0; 2 the command line or an input is wrong.\n"
-    "Environment: VEXOR_MOF and VEXOR_PROVIDERS stand for --mof and --providers.\n"
+    "Environment: VEXOR_MOF and VEXOR_PROVIDERS stand for --mof and --providers.\n";
+
+#if VEXOR_WITH_SIMULATOR
+constexpr const char* kSimulatorEnvironment =
+    "SWITCH_SIM_FABRIC and SWITCH_SIM_STATE stand for --fabric and --state; SWITCH_SIM_SOCKET is\n"
+    "the socket of a switch that another process runs.\n";
+#else
+constexpr const char* kSimulatorEnvironment = "";
+#endif
+
+constexpr const char* kEveryHelp =
     "Every command has a help of its own: vexor-cim enumerate --help";
 
 constexpr const char* kClassExamples =
@@ -495,7 +505,8 @@ std::string one_line(std::string text) {
 Parsed parse_command_line(int argc, const char* const* argv) {
   Options options;
   CLI::App app(kDescription, "vexor-cim");
-  app.footer(std::string(kExamples) + kSimulatorExamples + kStatus);
+  app.footer(std::string(kExamples) + kSimulatorExamples + kStatus + kSimulatorEnvironment +
+             kEveryHelp);
   app.require_subcommand(1);
   app.fallthrough();
   app.set_version_flag("--version", "vexor-cim " VEXOR_VERSION, "print the version");
