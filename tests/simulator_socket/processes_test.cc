@@ -10,15 +10,18 @@ namespace {
 constexpr const char* kSecondVsan = "VEXOR_Vsan.Name=\"2002000DEC0A1B2D\"";
 constexpr const char* kSettings = "VEXOR_FCSwitchSettings.InstanceID=\"2000000DEC0A1B2C\"";
 
-// A program that was started and not waited for; its standard output can be read.
+// A program that was started and not waited for; its standard output can be read. Its standard
+// error goes to a file.
 class Process {
  public:
-  explicit Process(std::vector<std::string> arguments) {
+  Process(std::vector<std::string> arguments, const std::string& errors) {
     int out[2] = {-1, -1};
     EXPECT_EQ(0, pipe2(out, O_CLOEXEC));
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, out[1], STDOUT_FILENO);
+    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, errors.c_str(),
+                                     O_WRONLY | O_CREAT | O_TRUNC, 0600);
     arguments.insert(arguments.begin(), VEXOR_CIM);
     std::vector<char*> argv;
     for (std::string& argument : arguments)
@@ -72,7 +75,7 @@ class Processes : public program::ProgramTest {
   // Runs the switch and waits until it serves.
   std::unique_ptr<Process> serve(std::vector<std::string> arguments = {}) {
     arguments.insert(arguments.end(), {"switch", "--socket", path()});
-    auto process = std::make_unique<Process>(arguments);
+    auto process = std::make_unique<Process>(arguments, errors());
     EXPECT_EQ("the switch answers at " + path(), process->line());
     EXPECT_EQ("other processes use it with SWITCH_SIM_SOCKET=" + path(), process->line());
     return process;
@@ -82,7 +85,11 @@ class Processes : public program::ProgramTest {
 
   std::vector<std::string> with_state() const { return {"--state", path("state.json")}; }
 
+  // What the switch wrote to its standard error.
+  std::string errors() const { return (elsewhere_.path() / "errors").string(); }
+
   program::TemporaryFolder folder_;
+  program::TemporaryFolder elsewhere_;
 };
 
 TEST_F(Processes, OneProcessChangesAndAnotherSeesIt) {
@@ -115,6 +122,39 @@ TEST_F(Processes, ProcessesChangeAndReadAtOnce) {
       "root/cimv2:VEXOR_FCSwitchSettings.InstanceID=\"2000000DEC0A1B2C\"\n"
       "PrincipalPriority  4\nPreferredDomainID  4\n",
       program::run({"get", kSettings, "--properties", "PrincipalPriority,PreferredDomainID"}).out);
+}
+
+// Each with a switch of its own: they share the state file only.
+TEST_F(Processes, ProcessesThatChangeOneStateFileLoseNothing) {
+  std::vector<std::thread> writers;
+  for (const char* setting : {"PrincipalPriority", "PreferredDomainID"}) {
+    writers.emplace_back([this, setting] {
+      for (const int value : {3, 2, 4, 2, 3, 4}) {
+        const auto outcome = program::run({"--state", path("state.json"), "modify", kSettings,
+                                           std::string(setting) + "=" + std::to_string(value)});
+        EXPECT_EQ(0, outcome.status) << outcome.err;
+      }
+    });
+  }
+  for (std::thread& writer : writers)
+    writer.join();
+  EXPECT_EQ(
+      "root/cimv2:VEXOR_FCSwitchSettings.InstanceID=\"2000000DEC0A1B2C\"\n"
+      "PrincipalPriority  4\nPreferredDomainID  4\n",
+      program::run({"--state", path("state.json"), "get", kSettings, "--properties",
+                    "PrincipalPriority,PreferredDomainID"})
+          .out);
+}
+
+TEST_F(Processes, TheSwitchTellsWhatItCannotSave) {
+  std::filesystem::create_directory(path("state.json.journal"));  // in the way of the journal
+  const auto served = serve(with_state());
+  use_it();
+  EXPECT_EQ(1, program::run({"modify", kSettings, "PreferredDomainID=12"}).status);
+  EXPECT_EQ(0, served->end(SIGTERM));
+  EXPECT_EQ(
+      "vexor-cim: a change was not saved: " + path("state.json") + ".journal: Is a directory\n",
+      program::file_text(errors()));
 }
 
 TEST_F(Processes, TheFabricIsThatOfTheSwitch) {
