@@ -26,7 +26,7 @@ std::string chassis_text(const Instance& chassis) {
     const std::string value = text_of(chassis, property);
     if (!value.empty()) text += std::string(", ") + name + " " + value;
   }
-  return text + "\n";
+  return columns_text({{text}});
 }
 
 /// The object at an end of an association; null where there is none.

@@ -7,11 +7,12 @@ namespace {
 class Modules : public ProgramTest {
  protected:
   /// What is printed of one switch with this chassis and these modules.
-  std::string table_of(const std::string& chassis, const std::string& modules) const {
+  std::string table_of(const std::string& chassis, const std::string& modules,
+                       const std::string& version = "3.1(2a)") const {
     const std::string fabric =
         R"json({"version": 1, "local_switch": "core-1", "vsans": [], "switches": [
-             {"name": "core-1", "wwn": "20:00:00:0d:ec:0a:1b:2c", "software_version": "3.1(2a)")json" +
-        chassis + R"(, "modules": [)" + modules + "]}]}";
+             {"name": "core-1", "wwn": "20:00:00:0d:ec:0a:1b:2c", "software_version": ")json" +
+        version + "\"" + chassis + R"(, "modules": [)" + modules + "]}]}";
     const Outcome outcome = run({"--fabric", folder_.write("f.json", fabric).string(), "modules"});
     EXPECT_EQ(outcome.err, "");
     EXPECT_EQ(outcome.status, 0);
@@ -48,6 +49,13 @@ TEST_F(Modules, Ports_are_counted_by_their_kind) {
             "1     Module 1  DISABLED  3 FC\n"
             "2     Module 2  BOOT      2 Ethernet\n"
             "4     Module 4  FAILED    --\n");
+}
+
+TEST_F(Modules, Control_characters_do_not_reach_the_terminal) {
+  EXPECT_EQ(table_of("", "", R"(3.1\u001b[31m)"),
+            "chassis QRX4400, version 3.1\\x001B[31m\n"
+            "\n"
+            "slot  module  status  ports\n");
 }
 
 TEST_F(Modules, A_switch_without_modules_prints_the_heading) {
