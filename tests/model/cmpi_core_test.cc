@@ -46,6 +46,20 @@ TEST_F(CmpiCore, AnUnusablePathIsPassedOnAsItCame) {
   EXPECT_EQ(path->hdl, nullptr);
 }
 
+// Only the caller of makePath asks for a status; whoever else makes paths, instances and arrays of
+// the broker asks for none, which the lines of every transcript tell.
+TEST_F(CmpiCore, TheStatusOfAPathIsTheBrokers) {
+  CMPIStatus status{CMPI_RC_ERR_FAILED, nullptr};
+  EXPECT_NE(makePath(broker_, kNamespace, "VEXOR_Zone", &status), nullptr);
+  EXPECT_EQ(status.rc, CMPI_RC_OK);
+  EXPECT_EQ(out_.out(),
+            "newObjectPath(root/cimv2, VEXOR_Zone, status) -> path3\n"
+            "setHostname(path3, switch-1)\n");
+  broker_.fail_nth_path(1, Failure::null_object);
+  EXPECT_EQ(makePath(broker_, kNamespace, "VEXOR_Zone", &status), nullptr);
+  EXPECT_EQ(status.rc, CMPI_RC_ERR_FAILED);
+}
+
 TEST_F(CmpiCore, AnAssociationsPathHoldsTwoReferences) {
   association_class_fill_reference_path("VEXOR_A", kNamespace, first_, second_, "One", "Two",
                                         broker_);

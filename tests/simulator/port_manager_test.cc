@@ -237,6 +237,37 @@ TEST_F(PortManager, AWalkOverATypeEndsWithIt) {
   EXPECT_EQ(expected, found);
 }
 
+// The default fabric with these port channels of the own switch, too, which have no members.
+switch_sim::Fabric with_channels(const std::vector<uint32_t>& added) {
+  switch_sim::Fabric fabric = control::default_fabric();
+  for (const uint32_t if_index : added)
+    fabric.switches[0].interfaces.emplace_back().if_index = if_index;
+  sort(fabric);
+  return fabric;
+}
+
+TEST_F(PortManager, AWalkGoesOnBehindAnInterfaceThatIsTakenOutOnTheWay) {
+  ASSERT_EQ(std::nullopt, control::install(with_channels({0x04000003, 0x04000004})));
+  const pm_port_info_* info = port(0x04000001, 2);
+  ASSERT_NE(nullptr, info);
+  EXPECT_EQ(0x04000003U, info->if_index);
+  ASSERT_EQ(std::nullopt, control::install(with_channels({0x04000004})));
+  info = port(0x04000003, 2);
+  ASSERT_NE(nullptr, info);
+  EXPECT_EQ(0x04000004U, info->if_index);
+  EXPECT_EQ(nullptr, port(0x04000003));
+  EXPECT_EQ(kNotFound, status);
+}
+
+TEST_F(PortManager, AnInterfaceThatIsTakenOutBeforeItsTurnIsPassedOver) {
+  ASSERT_EQ(std::nullopt, control::install(with_channels({0x04000003, 0x04000004})));
+  ASSERT_NE(nullptr, port(0x04000000, 2));
+  ASSERT_EQ(std::nullopt, control::install(with_channels({0x04000004})));
+  const pm_port_info_* info = port(0x04000001, 2);
+  ASSERT_NE(nullptr, info);
+  EXPECT_EQ(0x04000004U, info->if_index);
+}
+
 TEST_F(PortManager, WhatIsNoInterfaceIsNotFound) {
   expect_refused(record(1, "01010011"), kNotFound);
   expect_refused(record(1, "00000000"), kNotFound);

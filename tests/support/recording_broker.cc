@@ -186,11 +186,12 @@ Impl::Array& array_of(const CMPIArray* object) {
   return *static_cast<Impl::Array*>(object->hdl);
 }
 
-// Completes a call that makes an object: writes the line, and hands the object out or what its
-// fault says.
+// Completes a call that makes an object: writes the line, which a status that was asked for ends,
+// and hands the object out or what its fault says.
 template <class Made>
-auto hand_out(Impl& broker, Impl::Fault& fault, const std::string& line, Made& made, CMPIStatus* rc)
+auto hand_out(Impl& broker, Impl::Fault& fault, const std::string& call, Made& made, CMPIStatus* rc)
     -> decltype(&made.object) {
+  const std::string line = call + (rc != nullptr ? ", status)" : ")");
   bool fails = fault.due();
   if (rc != nullptr) rc->rc = fails ? CMPI_RC_ERR_FAILED : CMPI_RC_OK;
   if (fails && fault.how == Failure::null_object) {
@@ -214,7 +215,7 @@ CMPIObjectPath* new_object_path(const CMPIBroker* mb, const char* name_space,
   path.name_space = print_name(name_space);
   path.class_name = print_name(class_name);
   return hand_out(broker, broker.path_fault,
-                  "newObjectPath(" + path.name_space + ", " + path.class_name + ")", path, rc);
+                  "newObjectPath(" + path.name_space + ", " + path.class_name, path, rc);
 }
 
 CMPIInstance* new_instance(const CMPIBroker* mb, const CMPIObjectPath* op, CMPIStatus* rc) {
@@ -229,8 +230,7 @@ CMPIInstance* new_instance(const CMPIBroker* mb, const CMPIObjectPath* op, CMPIS
     instance.class_name = path_of(op).class_name;
     instance.host = path_of(op).host;
   }
-  return hand_out(broker, broker.instance_fault, "newInstance(" + broker.name_of(op) + ")",
-                  instance, rc);
+  return hand_out(broker, broker.instance_fault, "newInstance(" + broker.name_of(op), instance, rc);
 }
 
 CMPIArray* new_array(const CMPIBroker* mb, CMPICount size, CMPIType type, CMPIStatus* rc) {
@@ -244,8 +244,7 @@ CMPIArray* new_array(const CMPIBroker* mb, CMPICount size, CMPIType type, CMPISt
   array.type = type;
   array.elements.assign(size, "null");
   return hand_out(broker, broker.array_fault,
-                  "newArray(" + std::to_string(size) + ", " + cmpi_type_name(type) + ")", array,
-                  rc);
+                  "newArray(" + std::to_string(size) + ", " + cmpi_type_name(type), array, rc);
 }
 
 CMPIStatus set_hostname(const CMPIObjectPath* op, const char* host) {
