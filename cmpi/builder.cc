@@ -131,16 +131,29 @@ void CmpiBuilder::Writer::set_array(const char* name, CMPIArray* array, CMPIType
   set(name, &v, type);
 }
 
-void CmpiBuilder::Writer::uint16s(const char* name, std::span<const uint16_t> values) {
+CMPIArray* CmpiBuilder::Writer::new_array(std::span<const uint16_t> values) {
   CMPIArray* array = new_array(values.size(), CMPI_uint16);
-  if (array == nullptr) return;
+  if (array == nullptr) return nullptr;
   CMPICount index = 0;
   for (const uint16_t value : values) {
     CMPIValue v{};
     v.uint16 = value;
     array->ft->setElementAt(array, index++, &v, CMPI_uint16);
   }
-  set_array(name, array, CMPI_uint16A);
+  return array;
+}
+
+void CmpiBuilder::Writer::uint16s(const char* name, std::span<const uint16_t> values) {
+  CMPIArray* array = new_array(values);
+  if (array != nullptr) set_array(name, array, CMPI_uint16A);
+}
+
+void CmpiBuilder::Writer::same_uint16s(const char* first, const char* second,
+                                       std::span<const uint16_t> values) {
+  CMPIArray* array = new_array(values);
+  if (array == nullptr) return;
+  set_array(first, array, CMPI_uint16A);
+  set_array(second, array, CMPI_uint16A);
 }
 
 void CmpiBuilder::Writer::uint64s(const char* name, std::span<const uint64_t> values) {

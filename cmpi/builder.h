@@ -49,6 +49,8 @@ class CmpiBuilder final : public model::Builder {
     void uint64(const char* name, uint64_t value) final;
     void sint32(const char* name, int32_t value) final;
     void uint16s(const char* name, std::span<const uint16_t> values) final;
+    void same_uint16s(const char* first, const char* second,
+                      std::span<const uint16_t> values) final;
     void uint64s(const char* name, std::span<const uint64_t> values) final;
     void texts(const char* name, std::span<const char* const> values) final;
     void reference(const char* role, model::Ref end) final;
@@ -61,6 +63,7 @@ class CmpiBuilder final : public model::Builder {
 
    private:
     CMPIArray* new_array(size_t count, CMPIType type);
+    CMPIArray* new_array(std::span<const uint16_t> values);
     void set_array(const char* name, CMPIArray* array, CMPIType type);
     const CMPIBroker* broker_;
   };

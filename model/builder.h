@@ -44,6 +44,9 @@ class ObjectWriter {
   virtual void uint64(const char* name, uint64_t value) = 0;
   virtual void sint32(const char* name, int32_t value) = 0;
   virtual void uint16s(const char* name, std::span<const uint16_t> values) = 0;
+  // The same array as the value of two properties.
+  virtual void same_uint16s(const char* first, const char* second,
+                            std::span<const uint16_t> values) = 0;
   virtual void uint64s(const char* name, std::span<const uint64_t> values) = 0;
   virtual void texts(const char* name, std::span<const char* const> values) = 0;
   virtual void reference(const char* role, Ref end) = 0;

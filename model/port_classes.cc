@@ -208,9 +208,9 @@ void write_fibre_channel(ObjectWriter& out, const pm_port_info_& port, uint8_t t
   out.uint64("SupportedMaximumTransmissionUnit", mtu);
   out.uint64("ActiveMaximumTransmissionUnit", mtu);
   write_one_number(out, "SupportedCOS", 2);
-  // The same number for both, whatever the port carries: deliberate.
-  write_one_number(out, "SupportedFC4Types", 17);
-  write_one_number(out, "ActiveFC4Types", 17);
+  // One array for both, whatever the port carries: deliberate.
+  constexpr uint16_t kFc4Types[] = {17};
+  out.same_uint16s("SupportedFC4Types", "ActiveFC4Types", kFc4Types);
 }
 
 enum PortAvailability : uint16_t {

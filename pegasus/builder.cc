@@ -101,6 +101,12 @@ void PegasusBuilder::Writer::uint16s(const char* name, std::span<const uint16_t>
   set(name, CIMValue(array));
 }
 
+void PegasusBuilder::Writer::same_uint16s(const char* first, const char* second,
+                                          std::span<const uint16_t> values) {
+  uint16s(first, values);
+  uint16s(second, values);
+}
+
 void PegasusBuilder::Writer::uint64s(const char* name, std::span<const uint64_t> values) {
   Array<Pegasus::Uint64> array;
   for (const uint64_t value : values)

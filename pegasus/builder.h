@@ -46,6 +46,8 @@ class PegasusBuilder final : public model::Builder {
     void uint64(const char* name, uint64_t value) final;
     void sint32(const char* name, int32_t value) final;
     void uint16s(const char* name, std::span<const uint16_t> values) final;
+    void same_uint16s(const char* first, const char* second,
+                      std::span<const uint16_t> values) final;
     void uint64s(const char* name, std::span<const uint64_t> values) final;
     void texts(const char* name, std::span<const char* const> values) final;
     void reference(const char* role, model::Ref end) final;

@@ -303,6 +303,7 @@ TEST_F(PortChannels, AListLongerThanItsRoomIsTakenAsFull) {
     Interfaces members;
     EXPECT_EQ(pm_cim_get_port_channel_interfaces(kQueue, 5, members.out()), 0);
     EXPECT_EQ(members.indexes().size(), 16u) << length;
+    EXPECT_EQ(out_.out(), "") << length;  // nothing behind the room is taken for a member
   }
 }
 

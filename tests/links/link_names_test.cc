@@ -335,6 +335,8 @@ TEST(NameServerName, NeedsAWwnOf16Characters) {
 TEST(NameServerName, IsCutAt31Characters) {
   // The WWN comes out short.
   EXPECT_EQ(read_name("3_00000000000001_210000E08B0A1B2C"), (Name{-1, 3, 1, "untouched"}));
+  EXPECT_EQ(read_name("3_0000000000001_210000E08B0A1B2C"), (Name{-1, 3, 1, "untouched"}));  // 32
+  EXPECT_EQ(read_name("3_000000000001_210000E08B0A1B2C"), (Name{0, 3, 1, "210000E08B0A1B2C"}));
   // What would be a fourth part is not seen.
   EXPECT_EQ(read_name("3_000000000001_210000E08B0A1B2C_0"), (Name{0, 3, 1, "210000E08B0A1B2C"}));
 }

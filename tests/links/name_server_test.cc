@@ -53,6 +53,11 @@ Bytes entry(uint8_t port, uint8_t fabric_port = 1, uint8_t domain = 0x0a) {
       .byte(767, 0x99);
 }
 
+// The client says that the request was sent, and hands none out.
+void without_request(NameServerQuery query) {
+  query.returns(0).call()->answer.refused = true;
+}
+
 using Send = NameServerQuery (*)(uint32_t, uint32_t);
 
 // One of the lookups by a WWN, with everything in which they differ.
@@ -197,6 +202,15 @@ TEST_P(NameServerLookup, AReplyThatDoesNotComeIsToldAndTheRequestDropped) {
   Script script;
   script.expect(query()).sent();
   script.expect(reply()).times_out();
+  EXPECT_EQ(look_up(), -1);
+  EXPECT_EQ(out_.out(), GetParam().receive_failure);
+  EXPECT_EQ(count_, 0);
+  EXPECT_EQ(entries_, nullptr);
+}
+
+TEST_P(NameServerLookup, ASuccessfulSendWithoutARequestWaitsForNothing) {
+  Script script;
+  without_request(script.expect(query()));
   EXPECT_EQ(look_up(), -1);
   EXPECT_EQ(out_.out(), GetParam().receive_failure);
   EXPECT_EQ(count_, 0);
@@ -463,6 +477,13 @@ TEST_F(NameServerWalk, AReplyThatDoesNotComeIsToldAndTheRequestDropped) {
   script.expect(query_port_type(127).query(query_block(5))).sent();
   script.expect(receive().timeout(10)).receives_nothing();
   EXPECT_EQ(walk(), -1);
+}
+
+TEST_F(NameServerWalk, ASuccessfulSendWithoutARequestWaitsForNothing) {
+  Script script;
+  without_request(script.expect(query_port_type(127).query(query_block(5))));
+  EXPECT_EQ(walk(), -1);
+  EXPECT_EQ(out_.out(), "get nodes in vsan MTS recv failed!");
 }
 
 TEST_F(NameServerWalk, ARejectIsToldWithItsTwoCodes) {

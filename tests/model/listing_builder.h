@@ -70,6 +70,11 @@ class ListingBuilder final : public Builder {
     void uint64(const char* name, uint64_t) override { add(name, "uint64"); }
     void sint32(const char* name, int32_t) override { add(name, "sint32"); }
     void uint16s(const char* name, std::span<const uint16_t>) override { add(name, "uint16[]"); }
+    void same_uint16s(const char* first, const char* second,
+                      std::span<const uint16_t> values) override {
+      uint16s(first, values);
+      uint16s(second, values);
+    }
     void uint64s(const char* name, std::span<const uint64_t>) override { add(name, "uint64[]"); }
     void texts(const char* name, std::span<const char* const>) override { add(name, "string[]"); }
     void reference(const char* role, Ref end) override {
