@@ -370,6 +370,16 @@ TEST_F(PortChannels, WithoutAListNothingIsAsked) {
   EXPECT_EQ(script.calls(), 0u);
 }
 
+TEST_F(PortChannels, TheSessionIsPassedThrough) {
+  Script script;
+  script.expect(get(620).sap(34).q(12).sends(channel_request(5)))
+      .replies(channel_reply({kEthernet}));
+  script.expect(get_port(kEthernet).q(12)).gives(port_record(kEthernet));
+  script.expect(get_interface_address(kEthernet, 2).q(12)).gives(hex("0a 00 00 01"));
+  Interfaces members;
+  EXPECT_EQ(pm_cim_get_port_channel_interfaces(12, 5, members.out()), 0);
+}
+
 TEST(PortChannelFailures, EveryFailingCallOfAMemberListLeavesNothingBehind) {
   const size_t rounds = for_every_failing_exchange([](FailingExchange& failing) {
     StdioCapture out;
@@ -510,6 +520,20 @@ TEST_F(FcipBindings, WithoutAPlaceForTheResultNothingIsAsked) {
   EXPECT_EQ(pm_cim_get_ether_interfaces_for_fcip_interface(kQueue, kFcip, nullptr), -1);
   EXPECT_EQ(pm_cim_get_ether_index_for_fcip_interface(kQueue, kFcip, nullptr), -1);
   EXPECT_EQ(script.calls(), 0u);
+}
+
+TEST_F(FcipBindings, TheSessionIsPassedThrough) {
+  Script script;
+  script.expect(fcip_interfaces_of(kEthernet).q(12)).gives({kFcip});
+  script.expect(get_port(kFcip).q(12)).gives(port_record(kFcip));
+  script.expect(ethernet_interfaces_of(kFcip).q(12)).gives({kFc});
+  script.expect(get_port(kFc).q(12)).gives(port_record(kFc));
+  script.expect(ethernet_interfaces_of(kFcip).q(12)).gives({kEthernet});
+  Interfaces found;
+  uint32_t ethernet = 0;
+  EXPECT_EQ(pm_cim_get_fcip_interfaces_for_eth_interface(12, kEthernet, found.out()), 0);
+  EXPECT_EQ(pm_cim_get_ether_interfaces_for_fcip_interface(12, kFcip, found.out()), 0);
+  EXPECT_EQ(pm_cim_get_ether_index_for_fcip_interface(12, kFcip, &ethernet), 0);
 }
 
 TEST(FcipBindingFailures, EveryFailingCallLeavesNothingBehind) {

@@ -140,6 +140,18 @@ TEST_F(PortChanges, AnAliasWithoutAReplyGivesTheTransportsResult) {
   EXPECT_EQ(pm_cim_set_port_alias("a", kFc, kQueue), 0);
 }
 
+TEST_F(PortChanges, TheSessionIsPassedThrough) {
+  Script script;
+  script.expect(set_port(kFc, kAlias, alias_field("a")).q(12)).service_status(0);
+  script.expect(set_port(kFc, kSpeed, number(1000)).q(12)).service_status(0);
+  script.expect(set_port(kFc, kMode, number(32)).q(12)).service_status(0);
+  script.expect(set_port(kFc, kState, hex("01")).q(12)).service_status(0);
+  EXPECT_EQ(pm_cim_set_port_alias("a", kFc, 12), 0);
+  EXPECT_EQ(pm_cim_set_port_admin_speed(1062500000, kFc, 12), 0);
+  EXPECT_EQ(pm_cim_set_port_admin_mode(5, kFc, 12), 0);
+  EXPECT_EQ(pm_cim_set_port_admin_status(2, kFc, 12), 0);
+}
+
 // ---- Speed ------------------------------------------------------------------------------------
 
 TEST_F(PortChanges, ASpeedIsSentAsThePortManagersNumber) {

@@ -447,6 +447,14 @@ TEST_F(Optics, TheSupportIsByte8OfTheReply) {
   EXPECT_EQ(out_.out(), "\nis_fcot_supported :: 2 \n is_fcot_present :: 1 \n ");
 }
 
+TEST_F(Optics, TheSessionIsPassedThrough) {
+  Script script;
+  script.expect(get_fcot(kFc).q(12)).gives(zeros(9));
+  uint8_t supported = 9;
+  EXPECT_EQ(pm_cim_get_fcot_info(12, &info_, &supported), 0);
+  EXPECT_EQ(supported, 0);
+}
+
 TEST_F(Optics, AFailedRequestSaysSo) {
   Script script;
   script.expect(get_fcot(kFc)).fails(5);
@@ -616,6 +624,14 @@ TEST_F(PortCounters, AreFoundByTheInterface) {
             " found counter ");
 }
 
+TEST_F(PortCounters, OnlyExactZeroIsTheNextInterface) {
+  for (const int32_t exact : {2, -1}) {
+    Script script;
+    script.expect(get_port_counters(kFc)).gives(counter_block(kFc));
+    EXPECT_NE(Counters(pm_cim_find_interface_counters(exact, kFc, kQueue)), nullptr);
+  }
+}
+
 TEST_F(PortCounters, AreFoundForTheNextInterface) {
   Script script;
   script.expect(get_next_port(kFc)).gives(port_record(kFcNext));
@@ -626,6 +642,14 @@ TEST_F(PortCounters, AreFoundForTheNextInterface) {
   EXPECT_EQ(out_.out(),
             "in find port stat 16842753\nlooking for counter of fc1/2\n counter found "
             " found counter ");
+}
+
+TEST_F(PortCounters, TheSessionIsPassedThrough) {
+  Script script;
+  script.expect(get_next_port(kFc).q(12)).gives(port_record(kFcNext));
+  script.expect(get_port_counters(kFcNext).q(12)).gives(counter_block(kFcNext));
+  const Counters counters(pm_cim_find_interface_counters(0, kFc, 12));
+  EXPECT_NE(counters, nullptr);
 }
 
 TEST_F(PortCounters, AreNotFoundWithoutANextInterface) {

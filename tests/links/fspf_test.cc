@@ -391,6 +391,16 @@ TEST_F(FspfVsan, TheLinksStandInTheOrderOfTheSwitches) {
   EXPECT_EQ(out_.out() + out_.err(), "");
 }
 
+TEST_F(FspfVsan, TheSessionIsPassedThrough) {
+  Script script;
+  script.expect(local_domain_of(5).q(12)).replies(local_domain_reply(5, 0x62));
+  script.expect(get(1401).sap(20).q(12).sends(Record(8).be32(0, 5))).replies(giel_reply(5, 1));
+  script.expect(element_of(5, 1).q(12)).replies(element_reply(5, 1));
+  script.expect(lsr_of(5, 0x61).q(12)).replies(lsr_reply({link(0x61, 1)}));
+  ASSERT_EQ(fspf_cim_get_all_fspfLinks_of_vsan(12, 5, &count_, 1, &links_), 0);
+  EXPECT_EQ(found(), Words{1});
+}
+
 TEST_F(FspfVsan, ASwitchWhoseLsrCannotBeReadIsSkipped) {
   Script script;
   expect_switches(script, 5, 3);
@@ -413,11 +423,15 @@ TEST_F(FspfVsan, TheLocalSwitchsLinksAreLeftOutWhenOnlyRemoteOnesAreAskedFor) {
 }
 
 TEST_F(FspfVsan, AVsanOfTheLocalSwitchAloneHasNoRemoteLinks) {
-  Script script;
-  script.expect(local_domain_of(5)).replies(local_domain_reply(5, 0x61));
-  expect_switches(script, 5, 1);
-  EXPECT_EQ(fetch(1), 0);
-  EXPECT_EQ(count_, 0);
+  for (const int32_t remote_only : {1, 2, -1}) {
+    Script script;
+    script.expect(local_domain_of(5)).replies(local_domain_reply(5, 0x61));
+    expect_switches(script, 5, 1);
+    EXPECT_EQ(fetch(remote_only), 0);
+    EXPECT_EQ(count_, 0);
+    ledger_.release_by_caller(links_);
+    links_ = nullptr;
+  }
 }
 
 TEST_F(FspfVsan, WithoutTheLocalDomainNoSwitchIsLeftOut) {

@@ -303,6 +303,22 @@ TEST_F(NameServer, TheOtherFormsOfALookupAskTheSame) {
   given(ns_cim_get_fxport_entries_with_string_wwn(kQueue, kVsan, kWwnText, &count_, &entries_));
 }
 
+TEST_F(NameServer, TheSessionIsPassedThrough) {
+  Script script;
+  ns_fc4_device_* devices = nullptr;
+  script.expect(query_fabric_port_name(word0(), word1()).q(12).query(query_block(5))).sent();
+  script.expect(receive().timeout(10).q(12)).receives(name_server_reply().entry(entry(1)));
+  script.expect(query_port_type(127).q(12).query(query_block(5))).sent();
+  script.expect(receive().timeout(10).q(12)).receives(name_server_reply().entry(entry(2)));
+  script.expect(query_fc4_devices(5, hex(kWwn)).q(12)).gives(fc4_devices({}));
+  EXPECT_EQ(ns_cim_get_fxport_entries_with_string_wwn(12, 5, kWwnText, &count_, &entries_), 0);
+  forget();
+  EXPECT_EQ(ns_cim_get_all_fxports_in_vsan(12, 5, 0, &count_, &entries_), 0);
+  forget();
+  EXPECT_EQ(ns_cim_get_fc4_devices(12, 5, kWwnText, &count_, &devices), 0);
+  std::free(devices);
+}
+
 TEST_F(NameServer, ATextThatIsNoWwnIsAFailureWithoutARequest) {
   Script script;
   ns_fc4_device_* devices = nullptr;
@@ -405,11 +421,14 @@ TEST_F(NameServerWalk, GivesEveryNxPortFromTheNodeSide) {
 }
 
 TEST_F(NameServerWalk, AsksForOtherAttributesFromTheFabricSide) {
-  Script script;
-  script.expect(query_port_type(127).query(query_block(5, 0x0114))).sent();
-  script.expect(receive().timeout(10)).receives(name_server_reply().entry(entry(1)));
-  EXPECT_EQ(walk(1), 0);
-  EXPECT_EQ(ports(), std::vector<int>{1});
+  for (const int32_t fabric_side : {1, 2, -1}) {
+    Script script;
+    script.expect(query_port_type(127).query(query_block(5, 0x0114))).sent();
+    script.expect(receive().timeout(10)).receives(name_server_reply().entry(entry(1)));
+    EXPECT_EQ(walk(fabric_side), 0);
+    EXPECT_EQ(ports(), std::vector<int>{1});
+    forget();
+  }
 }
 
 TEST_F(NameServerWalk, ADeviceRegisteredTwiceIsListedTwice) {
@@ -546,6 +565,16 @@ TEST_F(NameServerWalk, OnePerFabricPortKeepsTheFirstEntryOfEach) {
   const size_t first = out.find(line);
   ASSERT_NE(first, std::string::npos) << out;
   EXPECT_EQ(out.substr(first), line + line);
+}
+
+TEST_F(NameServerWalk, EveryNonZeroFlagAsksForOnePerFabricPort) {
+  for (const int32_t one_per_port : {2, -1}) {
+    Script script;
+    expect_walk(script, three_devices());
+    EXPECT_EQ(fxports(one_per_port), 0);
+    EXPECT_EQ(ports(), (std::vector<int>{1, 3}));
+    forget();
+  }
 }
 
 TEST_F(NameServerWalk, AFailedWalkHasNoFxPorts) {
