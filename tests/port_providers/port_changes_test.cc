@@ -277,6 +277,15 @@ TEST_F(PortChanges, AStateThatThePortDoesNotTakeIsAnError) {
   EXPECT_EQ(value(get(port_path(kFc1)), "EnabledState"), "2");
 }
 
+// It may have been taken out of the switch: nobody can tell whether it took the state.
+TEST_F(PortChanges, AStateOfAPortThatCannotBeReadAfterwardsIsAnError) {
+  for (const auto kind : {Fault::Kind::status, Fault::Kind::without_reply, Fault::Kind::error}) {
+    fail(switch_sim::kPortConfiguration, kind, kTimedOut, 2);
+    EXPECT_EQ(request_state(port_path(kFc1), 3), "2");
+    control::set_faults({});
+  }
+}
+
 TEST_F(PortChanges, OtherMethodsAndClassesAreRefused) {
   expect_error(CMPI_RC_ERR_METHOD_NOT_FOUND, "", [&] {
     manager_->invoke_method(path(id_path("VEXOR_FCPortSettings", kFc1)), "RequestStateChange", {});

@@ -82,6 +82,12 @@ TEST_F(PortForms, APortOfALinkIsAskedOfItsOwnSwitch) {
             2u);
 }
 
+TEST_F(PortForms, APortOfADeviceIsAskedOfItsOwnSwitchInEachVsan) {
+  // The two VSANs and the end of their list; the switch's element and links in each.
+  EXPECT_EQ(exchanges([&] { get(port_path("2000000DEC0A1B5E_16842754_1", "2000000DEC0A1B5E")); }),
+            3u + 2u + 2u);
+}
+
 TEST_F(PortForms, NamesOfNoLinkAreNotFound) {
   for (const char* id :
        {"1_1_98_1_0_16842755", "1_1_99_1_0_16842754", "1_3_98_1_0_16842754", "1_1_98_1_0",

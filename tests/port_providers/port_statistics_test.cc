@@ -46,6 +46,12 @@ TEST_F(PortStatistics, OfOtherInterfacesAreNotFound) {
     expect_not_found(id_path("VEXOR_FCPortStatistics", id));
 }
 
+// The library would ask for those of any port channel.
+TEST_F(PortStatistics, OfAnEthernetChannelAreNotAskedFor) {
+  EXPECT_EQ(exchanges([&] { expect_not_found(id_path("VEXOR_FCPortStatistics", "67174402")); }),
+            0u);
+}
+
 TEST_F(PortStatistics, OfAPortThatHasJustVanishedAreLeftOut) {
   fail(switch_sim::kPortCounters, Fault::Kind::status, 0x40350004, 2);
   const Texts all = names("VEXOR_FCPortStatistics");

@@ -207,6 +207,15 @@ TEST_F(PortManager, AMemberShowsTheVsanAndModeOfItsChannel) {
   EXPECT_EQ(1U, +member->vsan);
 }
 
+TEST_F(PortManager, AMemberWorksForTheVsanOfItsChannelWhateverItsOwn) {
+  switch_sim::Fabric fabric = control::default_fabric();
+  find_interface(fabric.switches[0], 0x04000001)->vsan = 2;
+  ASSERT_EQ(1U, find_interface(fabric.switches[0], 0x01010005)->vsan);
+  ASSERT_EQ(std::nullopt, control::install(fabric));
+  EXPECT_EQ(2U, +port(0x01010005)->vsan);
+  EXPECT_EQ(2U, +port(0x04000001)->vsan);
+}
+
 TEST_F(PortManager, AnEthernetChannelHasTheSpeedOfItsMembers) {
   const pm_port_info_* channel = port(0x04010002);
   EXPECT_EQ(2000U, +channel->oper_speed);
