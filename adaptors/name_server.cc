@@ -80,10 +80,13 @@ class Query {
   void* cursor_ = nullptr;
 };
 
+// More ports than a VSAN has FC IDs: a greater count is a broken one.
+constexpr int32_t kMostPorts = 1 << 24;
+
 // Room for the entries that a service announces; null when memory runs out or the count is none.
 template <typename Record>
 CHeap<Record> allocate_announced(int32_t count) {
-  if (count < 0) return nullptr;
+  if (count < 0 || count > kMostPorts) return nullptr;
   return allocate<Record>(static_cast<size_t>(std::max(count, 1)));
 }
 

@@ -6,7 +6,8 @@
  *   failure is printed on standard output. A null pointer argument is a failure.
  * - Arrays come from the C heap; the caller frees them with free(), after a failure too: the
  *   out-parameter is null unless an array was allocated before the failure. A count is 0 until
- *   entries were read.
+ *   entries were read. A reply that announces a negative number of them, or more than there are FC
+ *   IDs, is a failure.
  * - Lists own their elements and are released with cim_g_slist_destroy; *list is the head, in and
  *   out. Elements are ns_api_register_req_ records of 768 bytes.
  * - A lookup waits at most 10 seconds for the name server's reply, and asks it once unless stated.

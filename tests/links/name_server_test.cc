@@ -175,8 +175,8 @@ TEST_P(NameServerLookup, MoreEntriesAnnouncedThanThereAreCountForNothing) {
   EXPECT_EQ(ports(), std::vector<int>{1});
 }
 
-TEST_P(NameServerLookup, ANegativeCountIsAFailure) {
-  for (const int32_t count : {-1, INT32_MIN}) {
+TEST_P(NameServerLookup, ACountThatNoVsanHasIsAFailure) {
+  for (const int32_t count : {-1, INT32_MIN, 0x1000001, INT32_MAX}) {
     Script script;
     script.expect(query()).sent();
     script.expect(reply()).receives(name_server_reply().entry(entry(1)).count(count));
@@ -383,8 +383,10 @@ TEST_F(NameServerDevices, EveryFailureIsOneAndDropsTheReply) {
   EXPECT_EQ(fetch(), -1);
   script.expect(query()).returns(0);
   EXPECT_EQ(fetch(), -1);
-  script.expect(query()).gives(fc4_devices({device_}, -1));
-  EXPECT_EQ(fetch(), -1);
+  for (const int32_t count : {-1, 0x1000001, INT32_MAX}) {
+    script.expect(query()).gives(fc4_devices({device_}, count));
+    EXPECT_EQ(fetch(), -1);
+  }
   script.expect(query()).gives(fc4_devices({device_}));
   ledger_.fail_nth(1, Heap::c);
   EXPECT_EQ(fetch(), -1);
@@ -461,10 +463,13 @@ TEST_F(NameServerWalk, ReadsAtMostTheAnnouncedCountAndEndsAtAFailure) {
   expect_walk(script, name_server_reply().entry(entry(1)).entry(entry(2)).entry_fails(1));
   EXPECT_EQ(walk(), 0);
   EXPECT_EQ(ports(), std::vector<int>{1});
-  forget();
-  expect_walk(script, name_server_reply().count(-1));
-  EXPECT_EQ(walk(), -1);
-  EXPECT_EQ(count_, 0);
+  for (const int32_t count : {-1, 0x1000001, INT32_MAX}) {
+    forget();
+    expect_walk(script, name_server_reply().count(count));
+    EXPECT_EQ(walk(), -1);
+    EXPECT_EQ(count_, 0);
+    EXPECT_EQ(entries_, nullptr);
+  }
 }
 
 TEST_F(NameServerWalk, OfAnEmptyVsanIsASuccess) {
