@@ -160,6 +160,10 @@ TEST(FspfLinkName, MayHoldNumbersOutOfRangeAndOtherCharacters) {
   EXPECT_EQ(read("1_4294967295_1_1_1_1", 0), (Numbers{1, -1, 1, 1, 1, 1}));
 }
 
+TEST(FspfLinkName, HoldsDecimalNumbersWhateverTheyBeginWith) {
+  EXPECT_EQ(read("04_010_099_0x2_3_7", 0), (Numbers{4, 10, 99, 0, 3, 7}));
+}
+
 TEST(FspfLinkName, NeedsAPlaceForEachNumber) {
   int32_t n = 0;
   EXPECT_EQ(fspf_cim_get_fields_from_name(nullptr, &n, &n, &n, &n, &n, &n), -1);
@@ -309,6 +313,11 @@ TEST(NameServerName, IsCodeVsanAndWwn) {
   EXPECT_EQ(read_name("2_4094_any 16 character"), (Name{0, 2, 4094, "any 16 character"}));
   EXPECT_EQ(read_name("11_-1_210000E08B0A1B2C"), (Name{0, 11, -1, "210000E08B0A1B2C"}));
   EXPECT_EQ(read_name("27_x_210000E08B0A1B2C"), (Name{0, 27, 0, "210000E08B0A1B2C"}));
+}
+
+TEST(NameServerName, HoldsDecimalNumbersWhateverTheyBeginWith) {
+  EXPECT_EQ(read_name("011_010_210000E08B0A1B2C"), (Name{0, 11, 10, "210000E08B0A1B2C"}));
+  EXPECT_EQ(read_physical_name("027_210000E08B0A1B2C"), (Name{0, 27, -9, "210000E08B0A1B2C"}));
 }
 
 TEST(NameServerName, OfAnotherCodeIsNotRead) {
