@@ -141,10 +141,25 @@ TEST(RecordingBroker, TheNthObjectCanBeNull) {
   EXPECT_EQ(mb->eft->newArray(mb, 1, CMPI_uint8, nullptr), nullptr);
   EXPECT_EQ(capture.out(),
             "newObjectPath(root/cimv2, A) -> path1\n"
-            "newObjectPath(n, B) -> null\n"
+            "newObjectPath(n, B, status) -> null\n"
             "newObjectPath(root/cimv2, C) -> path3\n"
             "newInstance(path1) -> null\n"
             "newArray(1, uint8) -> null\n");
+}
+
+TEST(RecordingBroker, AStatusThatIsAskedForStandsInTheLine) {
+  StdioCapture capture;
+  RecordingBroker recorder;
+  const CMPIBroker* mb = recorder;
+  CMPIStatus rc{CMPI_RC_ERR_FAILED, nullptr};
+  CMPIObjectPath* path = mb->eft->newObjectPath(mb, "n", "A", &rc);
+  mb->eft->newInstance(mb, path, &rc);
+  mb->eft->newArray(mb, 1, CMPI_uint8, &rc);
+  EXPECT_EQ(rc.rc, CMPI_RC_OK);
+  EXPECT_EQ(capture.out(),
+            "newObjectPath(n, A, status) -> path1\n"
+            "newInstance(path1, status) -> instance1\n"
+            "newArray(1, uint8, status) -> array1\n");
 }
 
 TEST(RecordingBroker, TheNthObjectCanHaveANullHandle) {
