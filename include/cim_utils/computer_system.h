@@ -8,6 +8,7 @@
 //   and cut to its size.
 // - A property getter makes the property anew, whatever was in it, and returns 0. The four at the
 //   end have nothing to tell: they leave the property as it was.
+// - When memory runs out std::bad_alloc is the caller's.
 #pragma once
 
 #include <Pegasus/Common/CIMProperty.h>

@@ -10,6 +10,9 @@
 // - Services are asked on the queue mts_q of this class. A service that does not answer leaves out
 //   what depends on it, or gives the fallback text that the class defines.
 // - Null records make an uninitialised object. Records are the caller's, in host order.
+// - Exceptions of the interface (a class name or a namespace that is none) are the caller's, except
+//   where a function says otherwise; so is std::bad_alloc when memory runs out. What was made until
+//   then is released.
 // - Traces go to standard output.
 #pragma once
 

@@ -3,8 +3,10 @@
 #define TESTS_SUPPORT_DOUBLE_H
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
+#include "tests/support/exchange_failure.h"
 #include "tests/support/script.h"
 
 // A message as the doubles make it. It outlives its drop, so that a second drop can be seen; its
@@ -26,8 +28,10 @@ namespace test_support {
 // there is none. Sets errno where the answer says one.
 Answer answer_to(const Call& call);
 
-// Whether the failing round in force fails this call. For calls that no script answers.
-bool exchange_fails();
+// How the failing round in force fails this call, if it does. For calls that no script answers.
+std::optional<ExchangeFailure> exchange_failure(const char* function);
+// What is left of an answer when its call fails so.
+Answer failed_answer(const Answer& answer, ExchangeFailure how);
 
 // A block for the library to free, holding the answer's bytes; null when it has none.
 void* hand_out_block(const Answer& answer, const std::string& label);

@@ -114,9 +114,15 @@ void Responder::fail_nth_exchange(size_t n, int32_t status, int error_number) {
 Response Responder::respond(const Request& request) {
   ++calls_;
   ++by_opcode_[request.opcode];
-  if (exchange_fails()) return Response::failed(-1);
+  const auto how = exchange_failure("cmi_req_resp");
+  if (how && *how != ExchangeFailure::cut_reply) {
+    const Answer answer = failed_answer({}, *how);
+    return Response::failed(static_cast<int32_t>(answer.result), answer.error_number);
+  }
   if (fail_in_ != 0 && --fail_in_ == 0) return failure_;
-  return answer_(request);
+  Response response = answer_(request);
+  if (how && response.reply && !response.reply->empty()) response.reply->pop_back();
+  return response;
 }
 
 namespace {

@@ -151,6 +151,10 @@ struct FreedBlocks {
     sizes[at] = block.size;
     bytes += block.size;
   }
+  void* address(size_t i) const {
+    return reinterpret_cast<void*>(~hidden[(first + i) % kMostBlocks]);
+  }
+  void drop_newest() { bytes -= sizes[(first + --count) % kMostBlocks]; }
   void* pop() {
     void* oldest = reinterpret_cast<void*>(~hidden[first]);
     bytes -= sizes[first];
@@ -160,7 +164,24 @@ struct FreedBlocks {
   }
 };
 
+// How many blocks there are to be told at the end of a scope or of an owner. Most leave none, and
+// then the table need not be walked.
+struct LiveBlocks {
+  size_t scoped = 0;
+  size_t owned = 0;
+
+  void begin(const Block& block) {
+    scoped += block.scope != 0;
+    owned += block.owner != 0;
+  }
+  void end(const Block& block) {
+    scoped -= block.scope != 0;
+    owned -= block.owner != 0;
+  }
+};
+
 constinit Table table;
+constinit LiveBlocks live_blocks;
 constinit FreedBlocks freed_blocks;
 constinit HeapLedger* active = nullptr;
 constinit uint32_t last_scope = 0;
@@ -168,6 +189,14 @@ constinit thread_local int pauses = 0;
 
 HeapLedger* armed() {
   return pauses == 0 ? active : nullptr;
+}
+
+// Under the table's lock.
+void record(const Block& block) {
+  const Block* same = table.find(address_of(block));  // freed meanwhile where we can not see it
+  if (same != nullptr && same->state == State::live) live_blocks.end(*same);
+  table.insert(block);
+  live_blocks.begin(block);
 }
 
 std::string describe(const Block& block) {
@@ -221,7 +250,7 @@ void* allocate(size_t size, Maker maker, size_t alignment, bool zeroed) {
   block.maker = maker;
   block.state = State::live;
   std::lock_guard lock(table.mutex);
-  table.insert(block);
+  record(block);
   return p;
 }
 
@@ -292,6 +321,7 @@ void release(void* p, Maker maker) {
     std::lock_guard lock(table.mutex);
     if (Block* block = table.find(p)) {
       seen = *block;
+      if (block->state == State::live) live_blocks.end(*block);
       if (block->state == State::live && ledger != nullptr) {
         block->state = State::freed;
         block->scope = LedgerAccess::scope(*ledger);
@@ -348,11 +378,24 @@ std::vector<Block> collect(Wanted wanted, Then then) {
   return blocks;
 }
 
-// Gives the blocks freed under the scope back to the heap.
+// Gives the blocks freed under the scope back to the heap. All freed blocks are among those that
+// keep their address; the scope's own are the newest.
 void end_freed_blocks(uint32_t scope) {
-  std::vector<Block> freed = collect(
-      [scope](const Block& block) { return block.state == State::freed && block.scope == scope; },
-      [](Block& block) { take_freed(&block); });
+  std::vector<Block> freed;
+  freed.reserve(freed_blocks.count);
+  {
+    std::lock_guard lock(table.mutex);
+    const auto is_kept = [](const Block* block) {
+      return block != nullptr && block->state == State::freed;
+    };
+    for (size_t i = 0; i < freed_blocks.count && freed.size() < freed.capacity(); ++i) {
+      Block* block = table.find(freed_blocks.address(i));
+      if (is_kept(block) && block->scope == scope) freed.push_back(take_freed(block));
+    }
+    while (freed_blocks.count != 0 &&
+           !is_kept(table.find(freed_blocks.address(freed_blocks.count - 1))))
+      freed_blocks.drop_newest();
+  }
   for (const Block& block : freed)
     end_freed_block(block);
 }
@@ -404,7 +447,8 @@ HeapLedger::~HeapLedger() {
   Pause pause;
   active = outer_;
   end_freed_blocks(scope_);
-  std::vector<Block> left = live_and_not_told(&Block::scope, scope_);
+  std::vector<Block> left;
+  if (live_blocks.scoped != 0) left = live_and_not_told(&Block::scope, scope_);
   if (failures_so_far() != failures_before_) {
     // GoogleTest keeps its records of a failure in blocks made with new, which say nothing here.
     std::erase_if(left, [](const Block& block) { return block.maker != Maker::malloc; });
@@ -493,13 +537,14 @@ void* give_out(std::span<const uint8_t> bytes, const std::string& label, uint32_
   block.maker = Maker::malloc;
   block.state = State::live;
   std::lock_guard lock(table.mutex);
-  table.insert(block);
+  record(block);
   return p;
 }
 
 std::vector<std::string> not_given_back(uint32_t owner) {
   HeapLedger::Pause pause;
   std::vector<std::string> lines;
+  if (live_blocks.owned == 0) return lines;
   for (const Block& block : live_and_not_told(&Block::owner, owner)) {
     lines.push_back(describe(block));
   }

@@ -18,6 +18,8 @@ constexpr uint32_t kFirstToken = 0x7001;
 
 Script* current = nullptr;
 FailingExchange* failing = nullptr;
+ExchangeFailure failing_how = ExchangeFailure::refused;
+const char* function_failed = "";
 uint32_t last_owner = 0;
 
 struct Handle {
@@ -236,15 +238,20 @@ Script& Script::iterators_may_be_left() {
   return *this;
 }
 
+void lines_may_be_left(Script& script) {
+  script.impl().lines_may_be_left = true;
+}
+
 // ---- what the doubles ask ----
 
 struct ScriptAccess {
   static void count(Script& script) { ++script.calls_; }
 
-  static bool fails_now() {
-    if (failing == nullptr || ++failing->seen_ != failing->n_) return false;
+  static std::optional<ExchangeFailure> failure_now(const char* function) {
+    if (failing == nullptr || ++failing->seen_ != failing->n_) return std::nullopt;
     failing->hit_ = true;
-    return true;
+    function_failed = function;
+    return failing_how;
   }
 
   static bool failed_before() { return failing != nullptr && failing->hit_; }
@@ -299,8 +306,28 @@ void tell_errors(const Answer& answer, const Call& call) {
 
 }  // namespace
 
-bool exchange_fails() {
-  return ScriptAccess::fails_now();
+std::optional<ExchangeFailure> exchange_failure(const char* function) {
+  return ScriptAccess::failure_now(function);
+}
+
+Answer failed_answer(const Answer& answer, ExchangeFailure how) {
+  constexpr int64_t kStatus = 0x40330005;
+  constexpr int kTimerExpired = 62;
+  if (how == ExchangeFailure::refused) return refused();
+  if (how == ExchangeFailure::cut_reply) {
+    Answer cut = answer;
+    if (const size_t size = answer.bytes().size(); size != 0) cut.cut = size - 1;
+    return cut;
+  }
+  Answer nothing;
+  nothing.given = true;
+  nothing.cut = 0;  // not even the message of a request that was sent
+  if (how == ExchangeFailure::status) nothing.result = kStatus;
+  if (how == ExchangeFailure::timed_out) {
+    nothing.result = -1;
+    nothing.error_number = kTimerExpired;
+  }
+  return nothing;
 }
 
 Answer answer_to(const Call& call) {
@@ -311,11 +338,10 @@ Answer answer_to(const Call& call) {
   }
   ScriptAccess::count(*current);
   Script::Impl& script = current->impl();
-  bool failed_before = ScriptAccess::failed_before();
-  if (failed_before) skip_to(script, call);
+  if (script.lines_may_be_left || ScriptAccess::failed_before()) skip_to(script, call);
   Answer answer = take_line(script, call);
-  if (ScriptAccess::fails_now()) {
-    answer = refused();
+  if (const auto how = ScriptAccess::failure_now(call.function)) {
+    answer = failed_answer(answer, *how);
     script.lines_may_be_left = true;
   }
   tell_errors(answer, call);
@@ -333,7 +359,8 @@ mts_msg_* hand_out_message(const Answer& answer, const Call& call, int32_t q, bo
   HeapLedger::Pause pause;
   if (current == nullptr || answer.refused) return nullptr;
   Script::Impl& script = current->impl();
-  if (answer.message == nullptr && (!sent || answer.result != 0)) return nullptr;
+  if (answer.message == nullptr && (!sent || answer.result != 0 || answer.cut == 0u))
+    return nullptr;
   uint32_t token = 0;
   if (sent) {
     token = answer.token.value_or(script.next_token);
@@ -511,6 +538,17 @@ FailingExchange::FailingExchange(size_t n) : n_(n), outer_(failing) {
 }
 FailingExchange::~FailingExchange() {
   failing = outer_;
+}
+
+FailingHow::FailingHow(ExchangeFailure how) {
+  failing_how = how;
+}
+FailingHow::~FailingHow() {
+  failing_how = ExchangeFailure::refused;
+}
+
+const char* failed_function() {
+  return function_failed;
 }
 
 }  // namespace test_support
