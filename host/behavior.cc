@@ -11,6 +11,7 @@ Behavior Behavior::lenient() {
   behavior.keys_copied_to_instance = true;
   behavior.class_defaults = true;
   behavior.defaults_in_requests = true;
+  behavior.nested_paths_as_text = true;
   behavior.key_state = false;
   behavior.texts_fit_string_arrays = true;
   behavior.optional_slots = false;
@@ -26,6 +27,7 @@ Behavior Behavior::quiet() {
   behavior.filter_on_output = true;
   behavior.sorted_keys = true;
   behavior.integer_keys_widened = true;
+  behavior.empty_keys_null = true;
   behavior.memory_table = false;
   return behavior;
 }

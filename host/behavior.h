@@ -36,17 +36,22 @@ struct Behavior {
   bool filter_on_output = false;         ///< a property filter acts when the instance is returned
   bool sorted_keys = false;              ///< getKeyAt goes by name, not by order of addKey
   bool integer_keys_widened = false;     ///< integer keys read back as sint64
+  bool empty_keys_null = false;          ///< keys with an empty text read back as null
+  bool nested_paths_as_text = false;     ///< a path in a key, a property or an argument is kept as
+                                         ///< text without escapes: one with a quotation mark in a
+                                         ///< key reads back as a null pointer
   bool key_state = true;                 ///< keys read back in the state CMPI_keyValue
   bool texts_fit_string_arrays = false;  ///< CMPI_chars may be set in an array of CMPI_string
   bool optional_slots = true;  ///< slots that may be null are there: qualifiers, errors, messages
   bool memory_table = true;    ///< CMPIBroker.mft is there
 
   /// Does as it is told: stores wrong types and unknown properties, leaves optional slots out.
-  /// Instances start with the keys of their path and the defaults of their class.
+  /// Instances start with the keys of their path and the defaults of their class; paths in paths
+  /// are texts.
   static Behavior lenient();
-  /// Checks types but says nothing about unknown properties; keys are sorted, widened and counted
-  /// when they are missing; instances start with the defaults of their class; there is no memory
-  /// table.
+  /// Checks types but says nothing about unknown properties; keys are sorted, widened, null when
+  /// they are empty and counted when they are missing; instances start with the defaults of their
+  /// class; there is no memory table.
   static Behavior quiet();
 
   /// "strict" is the default; "lenient" and "quiet" are those above. Others have no value.

@@ -125,6 +125,16 @@ CMPIValue value_of(Broker& broker, const Element& element, CMPIType base) {
   return value;
 }
 
+bool has_quotation_mark(const ObjectPath& path) {
+  for (const NamedData& key : path.keys) {
+    const auto* text = std::get_if<std::string>(&key.data.element);
+    if (text != nullptr && text->find('"') != std::string::npos) return true;
+    const auto* nested = std::get_if<PathPtr>(&key.data.element);
+    if (nested != nullptr && has_quotation_mark(**nested)) return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 CMPIStatus make_status(CMPIrc code, const std::string& text) {
@@ -170,6 +180,9 @@ CMPIData to_cmpi(Broker& broker, const Data& data) {
     result.value.array = make<CMPIArray>(broker, ArrayContent{data.base_type(), data.elements});
   } else {
     result.value = value_of(broker, data.element, data.type);
+    const auto* path = std::get_if<PathPtr>(&data.element);
+    if (path != nullptr && broker.behavior().nested_paths_as_text && has_quotation_mark(**path))
+      result.value.ref = nullptr;
   }
   return result;
 }

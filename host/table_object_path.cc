@@ -60,6 +60,11 @@ CMPIData key_data(const Shell<CMPIObjectPath>& shell, const NamedData& key) {
       data.value.sint64 = *signed_number;
     }
   }
+  const auto* text = std::get_if<std::string>(&key.data.element);
+  if (behavior.empty_keys_null && text != nullptr && text->empty()) {
+    data.value = {};
+    data.state |= CMPI_nullValue;
+  }
   if (behavior.key_state) data.state |= CMPI_keyValue;
   return data;
 }

@@ -44,6 +44,12 @@ bool NewValues::text(const char* property, std::string& value) const {
   return status.rc == CMPI_RC_OK && to_text(data, value);
 }
 
+bool NewValues::has(const char* property) const {
+  CMPIStatus status = {CMPI_RC_OK, nullptr};
+  const CMPIData data = instance_->ft->getProperty(instance_, property, &status);
+  return status.rc == CMPI_RC_OK && (data.state & ~CMPI_keyValue) == 0;
+}
+
 std::vector<std::string> NewValues::names() const {
   std::vector<std::string> given;
   const CMPICount count = instance_->ft->getPropertyCount(instance_, nullptr);

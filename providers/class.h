@@ -48,6 +48,8 @@ class NewValues {
   // `value` receives its text.
   bool text(const char* property, std::string& value) const;
 
+  // Whether the instance has a value of the property, asked for or not.
+  bool has(const char* property) const;
   // The properties that the client gave with a value.
   std::vector<std::string> names() const;
   // Whether an instance has the same value of a property. Numbers are compared whatever their

@@ -22,9 +22,11 @@ bool read_key(const CMPIObjectPath* path, CMPICount index, ObjectName::Key& key)
     throw Failure(CMPI_RC_ERR_INVALID_PARAMETER, "key number %u of the object path is unreadable",
                   index + 1);
   const bool has_value = (data.state & ~CMPI_keyValue) == 0;
+  // An empty text comes without a value from some object managers.
+  const bool is_empty = data.type == CMPI_string && (data.state & CMPI_nullValue) != 0;
   if (has_value && data.type == CMPI_ref && data.value.ref != nullptr)
     key.object.emplace_back(data.value.ref);
-  else if (!to_text(data, key.text))
+  else if (!is_empty && !to_text(data, key.text))
     throw Failure(CMPI_RC_ERR_INVALID_PARAMETER, "key \"%s\" has no value", key.name.c_str());
   return true;
 }

@@ -100,6 +100,38 @@ void Request::for_each_class(Visit visit) const {
 
 // ---- building ----
 
+namespace {
+
+// Some object managers keep a path in a path as text, and lose the one that they cannot read again.
+// They would not survive to pass on a path that lost a key.
+void check_kept(const CMPIData& data, const CMPIStatus& status, const char* class_name,
+                const char* key) {
+  if (status.rc == CMPI_RC_OK && data.type == CMPI_ref && data.value.ref == nullptr)
+    throw Failure(CMPI_RC_ERR_FAILED,
+                  "the object manager cannot hold the object that \"%s\" of a %s names", key,
+                  class_name);
+}
+
+void check_kept(const CMPIObjectPath* path, const Class& association) {
+  for (const int end : {0, 1}) {
+    const char* key = association.end(end).role;
+    CMPIStatus status = {CMPI_RC_OK, nullptr};
+    const CMPIData data = path->ft->getKey(path, key, &status);
+    check_kept(data, status, association.name(), key);
+  }
+}
+
+void check_kept(const CMPIInstance* instance, const Class& association) {
+  for (const int end : {0, 1}) {
+    const char* key = association.end(end).role;
+    CMPIStatus status = {CMPI_RC_OK, nullptr};
+    const CMPIData data = instance->ft->getProperty(instance, key, &status);
+    check_kept(data, status, association.name(), key);
+  }
+}
+
+}  // namespace
+
 template <class Build>
 CMPIObjectPath* Request::build_path(const char* class_name, Build build) const {
   const ForwardingBroker broker(broker_, {});
@@ -110,6 +142,8 @@ CMPIObjectPath* Request::build_path(const char* class_name, Build build) const {
   }
   if (path == nullptr || path->hdl == nullptr)
     throw Failure(CMPI_RC_ERR_FAILED, "an object path of %s cannot be made", class_name);
+  const Class* cls = class_named(class_name);
+  if (cls != nullptr && cls->is_association()) check_kept(path, *cls);
   return path;
 }
 
@@ -128,6 +162,7 @@ CMPIInstance* Request::build_instance(const char* class_name, const char** prope
   CMPIInstance* instance = ForwardingBroker::real_instance(made);
   if (instance == nullptr)
     throw Failure(CMPI_RC_ERR_FAILED, "an instance of %s cannot be made", class_name);
+  if (cls != nullptr && cls->is_association()) check_kept(instance, *cls);
   return instance;
 }
 
@@ -233,11 +268,29 @@ void Request::refuse_other_changes(const Class& cls, const Found& found,
                     cls.name());
 }
 
+// A property that is listed without a value would have none: the switch knows no such state.
+void Request::refuse_lost_values(const Class& cls, const Found& found, const NewValues& values,
+                                 const char** properties) const {
+  if (properties == nullptr) return;
+  std::vector<const char*> without;
+  for (const char** name = properties; *name != nullptr; ++name)
+    if (!values.has(*name)) without.push_back(*name);
+  if (without.empty()) return;
+  without.push_back(nullptr);
+  const NewValues current(instance(cls, *found.objects, found.index, without.data()), nullptr);
+  without.pop_back();
+  for (const char* name : without)
+    if (current.has(name))
+      throw Failure(CMPI_RC_ERR_INVALID_PARAMETER, "\"%s\" of a %s cannot be without a value", name,
+                    cls.name());
+}
+
 void Request::modify(const CMPIInstance* new_values, const char** properties) {
   const Class& cls = own_class();
   if (!cls.can_modify()) not_supported(cls, "modified");
   const Found found = find(cls);
   const NewValues values(new_values, properties, blank_instance(cls));
+  refuse_lost_values(cls, found, values, properties);
   refuse_other_changes(cls, found, values);
   locked([&](int32_t q) { found.objects->modify(found.index, q, values); });
   done();

@@ -64,6 +64,9 @@ class Request {
   Found find(const Class& cls) const;
   // Throws Failure when the values would change what cannot be changed.
   void refuse_other_changes(const Class& cls, const Found& found, const NewValues& values) const;
+  // Throws Failure when a property of the list has a value now and none in the new values.
+  void refuse_lost_values(const Class& cls, const Found& found, const NewValues& values,
+                          const char** properties) const;
   // visit(const Class&) for the path's class or those that derive from it.
   template <class Visit>
   void for_each_class(Visit visit) const;

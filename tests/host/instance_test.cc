@@ -435,6 +435,29 @@ TEST_F(InstanceObjects, Hold_the_new_values_that_were_sent_only) {
   EXPECT_TRUE(request_content(broker_, sent).instance.find("Wear")->null);
 }
 
+TEST_F(Lenient, Loses_paths_with_a_quotation_mark_that_other_objects_hold) {
+  CMPIObjectPath* disk = new_path("Test_Disk");
+  CMPIObjectPath* link = new_path("Test_Link");
+  CMPIInstance* link_instance = new_instance("Test_Link");
+  const auto reads_back = [&](const char* zone) {
+    disk->ft->addKey(disk, "Zone", text(zone), CMPI_chars);
+    CMPIValue reference{};
+    reference.ref = disk;
+    link->ft->addKey(link, "Antecedent", &reference, CMPI_ref);
+    EXPECT_EQ(set(link_instance, "Antecedent", reference, CMPI_ref).rc, CMPI_RC_OK);
+    const CMPIData key = link->ft->getKey(link, "Antecedent", nullptr);
+    const CMPIData property = get(link_instance, "Antecedent");
+    EXPECT_EQ(key.type, CMPI_ref);
+    EXPECT_EQ(key.state, CMPI_goodValue);
+    EXPECT_EQ(property.state, CMPI_goodValue);
+    EXPECT_EQ(key.value.ref == nullptr, property.value.ref == nullptr);
+    return key.value.ref != nullptr;
+  };
+  EXPECT_TRUE(reads_back("it's"));
+  EXPECT_FALSE(reads_back("5\""));
+  EXPECT_EQ(path_text(disk), "root/test:Test_Disk.Zone=\"5\\\"\"");
+}
+
 TEST_F(Lenient, Leaves_optional_slots_out) {
   EXPECT_EQ(mb()->eft->newCMPIError, nullptr);
   EXPECT_EQ(mb()->eft->openMessageFile, nullptr);
@@ -477,6 +500,18 @@ TEST_F(Quiet, Sorts_and_widens_keys) {
   EXPECT_EQ(first.type, CMPI_sint64);
   EXPECT_EQ(first.value.sint64, 5);
   EXPECT_EQ(path_text(path), "root/test:Test_Disk.id=5,Zone=\"z\"");
+}
+
+TEST_F(Quiet, Gives_back_empty_keys_as_null) {
+  CMPIObjectPath* path = new_path("Test_Disk");
+  path->ft->addKey(path, "Zone", text(""), CMPI_chars);
+  const CMPIData key = path->ft->getKey(path, "Zone", nullptr);
+  EXPECT_EQ(key.type, CMPI_string);
+  EXPECT_EQ(key.state, CMPI_keyValue | CMPI_nullValue);
+  EXPECT_EQ(key.value.string, nullptr);
+  EXPECT_EQ(path->ft->getKeyAt(path, 0, nullptr, nullptr).state, CMPI_notFound | CMPI_nullValue);
+  EXPECT_EQ(path->ft->getKeyAt(path, 1, nullptr, nullptr).state, CMPI_keyValue | CMPI_nullValue);
+  EXPECT_EQ(path_text(path), "root/test:Test_Disk.Zone=\"\"");
 }
 
 TEST_F(Quiet, Counts_keys_that_a_path_lacks) {

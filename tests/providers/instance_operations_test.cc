@@ -176,10 +176,19 @@ TEST_F(ProviderInstances, AReferenceWhereATextBelongsNamesNothing) {
 
 TEST_F(ProviderInstances, AKeyWithoutAValueIsRefusedByName) {
   auto* path = broker_.path("VEXOR_Vsan", {{"CreationClassName", "VEXOR_Vsan"}});
-  path->ft->addKey(path, "Name", nullptr, CMPI_string);
+  path->ft->addKey(path, "Name", nullptr, CMPI_uint16);
   const Outcome answer = get(path);
   EXPECT_EQ(answer.code, CMPI_RC_ERR_INVALID_PARAMETER);
   EXPECT_EQ(answer.message, "key \"Name\" has no value");
+}
+
+// Some object managers give an empty text so.
+TEST_F(ProviderInstances, ATextKeyWithoutAValueIsTheEmptyText) {
+  auto* path = broker_.path("VEXOR_Vsan", {{"CreationClassName", "VEXOR_Vsan"}});
+  path->ft->addKey(path, "Name", nullptr, CMPI_string);
+  const Outcome answer = get(path);
+  EXPECT_EQ(answer.code, CMPI_RC_ERR_NOT_FOUND);
+  EXPECT_EQ(answer.message, "there is no such VEXOR_Vsan");
 }
 
 TEST_F(ProviderInstances, GetOfTheFabric) {

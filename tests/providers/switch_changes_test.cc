@@ -189,6 +189,20 @@ TEST_F(ProviderChanges, SettingsOutsideThePropertyListAreNotChanged) {
   EXPECT_EQ(switch_.changes(), (Changes{{264, domain_change(512).byte(332, 40).byte(333, 2)}}));
 }
 
+TEST_F(ProviderChanges, AListedSettingWithoutAValueIsRefusedAndNothingIsSent) {
+  const char* list[] = {"PrincipalPriority", "PreferredDomainID", nullptr};
+  expect_refused(modify(settings_path(), set(settings(), "PrincipalPriority", uint16_t{2}), list),
+                 CMPI_RC_ERR_INVALID_PARAMETER,
+                 "\"PreferredDomainID\" of a VEXOR_FCSwitchSettings cannot be without a value");
+}
+
+TEST_F(ProviderChanges, AListedSettingThatHasNoValueAnywayIsNoChange) {
+  const char* list[] = {"PrincipalPriority", "Caption", nullptr};
+  EXPECT_EQ(modify(settings_path(), set(settings(), "PrincipalPriority", uint16_t{2}), list).code,
+            CMPI_RC_OK);
+  EXPECT_EQ(switch_.changes(), (Changes{{264, domain_change(32).byte(337, 1)}}));
+}
+
 TEST_F(ProviderChanges, AValueOutOfRangeIsRefusedAndNothingIsSent) {
   CMPIInstance* values = set(settings(), "PrincipalPriority", uint16_t{2});
   for (const uint16_t domain : {0, 240, 255, 300}) {

@@ -374,8 +374,30 @@ CMPISint64 integer(const CMPIData& data) {
   }
 }
 
+bool has_quotation_mark(const PathObject& path) {
+  return std::any_of(path.keys.begin(), path.keys.end(), [](const Named& key) {
+    if (key.data.type == CMPI_ref) return has_quotation_mark(of(key.data.value.ref));
+    return key.data.type == CMPI_string &&
+           of(key.data.value.string).text.find('"') != std::string::npos;
+  });
+}
+
+// A path in a key or a property as the broker gives it back.
+CMPIData given_path(const Impl& broker, CMPIData data) {
+  if (broker.behavior.nested_paths_as_text && data.type == CMPI_ref && data.value.ref != nullptr &&
+      has_quotation_mark(of(data.value.ref)))
+    data.value.ref = nullptr;
+  return data;
+}
+
 // A key as the broker gives it back.
 CMPIData given_key(const Impl& broker, CMPIData data) {
+  data = given_path(broker, data);
+  const bool is_text = data.type == CMPI_string && (data.state & CMPI_nullValue) == 0;
+  if (broker.behavior.empty_keys_null && is_text && of(data.value.string).text.empty()) {
+    data.value = {};
+    data.state |= CMPI_nullValue;
+  }
   const bool is_integer = (data.type & CMPI_INTEGER) != 0 && (data.type & ~0xff) == 0;
   if (is_integer && broker.behavior.integer_keys_widened) {
     data.value.sint64 = integer(data);
@@ -457,7 +479,8 @@ CMPIData get_property(const CMPIInstance* instance, const char* name, CMPIStatus
   const InstanceObject& object = of(instance);
   const Guard guard(object.broker->mutex);
   std::vector<Named> all = all_properties(object);
-  return item(*object.broker, all, name, CMPI_RC_ERR_NO_SUCH_PROPERTY, rc);
+  return given_path(*object.broker,
+                    item(*object.broker, all, name, CMPI_RC_ERR_NO_SUCH_PROPERTY, rc));
 }
 
 CMPIData get_property_at(const CMPIInstance* instance, CMPICount index, CMPIString** name,

@@ -196,6 +196,17 @@ TEST_F(MofFolder, Prepares_the_switch_classes) {
             "DomainIDLocked boolean, PrincipalPriority uint16");
 }
 
+// The DMTF's schema gives the inherited property a default, which an object manager may fill in
+// where a client sends nothing.
+TEST_F(MofFolder, Declares_the_priority_of_the_switch_without_a_default) {
+  const Class* cls = agent.find("VEXOR_FCSwitchSettings");
+  ASSERT_NE(cls, nullptr);
+  const Property* priority = agent.property(*cls, "PrincipalPriority");
+  ASSERT_NE(priority, nullptr);
+  EXPECT_EQ(priority->declaring_class, "VEXOR_FCSwitchSettings");
+  EXPECT_TRUE(priority->default_value.is_null());
+}
+
 TEST_F(MofFolder, Has_the_port_classes) {
   const struct {
     const char* name;
