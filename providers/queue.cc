@@ -7,12 +7,9 @@
 namespace vexor::providers::queue {
 namespace {
 
-enum class State { unbound, bound, released };
-
 // Guarded by Lock.
-State state = State::unbound;
 int members = 0;
-int32_t bound_handle = -1;
+bool was_used = false;
 
 }  // namespace
 
@@ -23,27 +20,20 @@ void join() {
 
 int32_t leave() {
   const Lock lock;
-  if (--members > 0 || state != State::bound) return 0;
-  state = State::released;
-  return deinit_mts(&bound_handle);
+  if (--members > 0 || !was_used) return 0;
+  was_used = false;
+  const int32_t status = deinit_mts(&mts_q);
+  mts_q = -1;
+  return status;
 }
 
 int32_t handle() {
-  switch (state) {
-    case State::unbound:
-      gdb_check();  // lets a person attach a debugger before the provider's first request
-      if (init_mts(&bound_handle) != 0 || bound_handle < 0)
-        throw Failure(CMPI_RC_ERR_FAILED, "the switch's response queue cannot be bound");
-      state = State::bound;
-      break;
-    case State::bound:
-      break;
-    case State::released:
-      throw Failure(CMPI_RC_ERR_FAILED,
-                    "the switch's response queue was released; it is bound again only when the "
-                    "process is started anew");
-  }
-  return bound_handle;
+  if (!was_used) gdb_check();  // lets a person attach a debugger before the first request
+  int32_t bound = -1;
+  if (init_mts(&bound) != 0 || bound < 0)
+    throw Failure(CMPI_RC_ERR_FAILED, "the switch's response queue cannot be bound");
+  was_used = true;
+  return bound;
 }
 
 }  // namespace vexor::providers::queue

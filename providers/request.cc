@@ -138,6 +138,7 @@ CMPIObjectPath* Request::build_path(const char* class_name, Build build) const {
   CMPIObjectPath* path = nullptr;
   {
     const Lock lock;
+    queue::handle();  // what builds asks on it
     path = build(Target{class_name, name_space_.c_str(), broker.face(), nullptr});
   }
   if (path == nullptr || path->hdl == nullptr)
@@ -157,6 +158,7 @@ CMPIInstance* Request::build_instance(const char* class_name, const char** prope
   CMPIInstance* made = nullptr;
   {
     const Lock lock;
+    queue::handle();
     made = build(Target{class_name, name_space_.c_str(), broker.face(), properties});
   }
   CMPIInstance* instance = ForwardingBroker::real_instance(made);

@@ -52,12 +52,26 @@ class Lock {
 
 // The library asks on two queues: what this face builds on ProviderUtil's, the names of other
 // switches on the session's. The caller holds the lock.
+bool session_is_ours = false;  // bound by this provider. Guarded by Lock.
+
 int32_t bound_queue() {
   int32_t of_session = -1;
   int of_face = -1;
+  if (mts_q < 0) session_is_ours = true;
   if (::init_mts(&of_session) != 0 || ProviderUtil::init_mts(&of_face) != 0)
     fail(Pegasus::CIM_ERR_FAILED, "the switch's response queue cannot be bound");
   return of_session;
+}
+
+// The library gives a handle that was released out again, as long as it stays loaded, and others in
+// the process may ask on the session's queue: without the handle they bind it anew.
+void release_queues() {
+  ProviderUtil::deinit_mts(&ProviderUtil::mts_q);
+  ProviderUtil::mts_q = -1;
+  if (!session_is_ours) return;
+  ::deinit_mts(&mts_q);
+  mts_q = -1;
+  session_is_ours = false;
 }
 
 // Providers of this library that are in use. Guarded by Lock.
@@ -106,12 +120,14 @@ std::vector<Switch> read_switches() {
 // class definitions come from the object manager itself, never from a provider.
 CIMInstance build(const CIMObjectPath& path, const Switch& device) {
   const Lock lock;
+  bound_queue();  // what builds asks on it
   return ProviderUtil::switch_build_instance(kClass, path.getNameSpace().getString(),
                                              device.wwn.c_str(), device.remote ? 1 : 0);
 }
 
 CIMObjectPath reference(const CIMObjectPath& path, const Switch& device) {
   const Lock lock;
+  bound_queue();
   return ProviderUtil::switch_fill_reference(kClass, path.getNameSpace().getString(),
                                              device.wwn.c_str());
 }
@@ -219,7 +235,7 @@ void PhysicalComputerSystemProvider::terminate() {
     const Lock lock;
     if (--providers == 0) {
       ProviderUtil::_cimom = Pegasus::CIMOMHandle();
-      if (ProviderUtil::mts_q >= 0) ProviderUtil::deinit_mts(&ProviderUtil::mts_q);
+      release_queues();
     }
   }
   delete this;

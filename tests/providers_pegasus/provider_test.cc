@@ -472,7 +472,7 @@ TEST_F(PegasusProvider, ItIsUnloadedAndLoadedAgain) {
   }
 }
 
-TEST_F(PegasusProvider, TheLastProviderReleasesItsQueue) {
+TEST_F(PegasusProvider, TheLastProviderReleasesItsQueues) {
   const auto before = control::outstanding().queues;
   const Library library;
   std::optional<Provider> first(std::in_place, library);
@@ -483,7 +483,20 @@ TEST_F(PegasusProvider, TheLastProviderReleasesItsQueue) {
   EXPECT_EQ(3U, enumerate(*first).got.size());
   EXPECT_EQ(before + 2, control::outstanding().queues);
   first.reset();
-  EXPECT_EQ(before + 1, control::outstanding().queues);  // the session's
+  EXPECT_EQ(before, control::outstanding().queues);
+}
+
+// The library stays loaded where something else in the process uses it.
+TEST_F(PegasusProvider, AfterARestartItBindsItsQueuesAnew) {
+  const auto before = control::outstanding().queues;
+  const Library library;
+  for (int i = 0; i < 2; ++i) {
+    const Provider provider(library);
+    const CIMInstance instance = get(provider, named(kOwn));
+    EXPECT_EQ("TRUE", value(instance, "PrimarySwitch"));
+    EXPECT_EQ(before + 2, control::outstanding().queues);
+  }
+  EXPECT_EQ(before, control::outstanding().queues);
 }
 
 TEST_F(PegasusProvider, ThreadsGetWholeAnswers) {
