@@ -36,6 +36,35 @@ void check_key_names(const Class& cls, const ObjectName& name) {
   throw Failure(CMPI_RC_ERR_NOT_SUPPORTED, "instances of %s cannot be %s", cls.name(), operation);
 }
 
+// Some object managers keep a path in a path as text, and lose the one that they cannot read again.
+// They would not survive to pass on a path that lost a key.
+void check_kept(const CMPIData& data, const CMPIStatus& status, const char* class_name,
+                const char* key) {
+  const bool has_value = status.rc == CMPI_RC_OK && (data.state & ~CMPI_keyValue) == 0;
+  if (has_value && data.type == CMPI_ref && data.value.ref == nullptr)
+    throw Failure(CMPI_RC_ERR_FAILED,
+                  "the object manager cannot hold the object that \"%s\" of a %s names", key,
+                  class_name);
+}
+
+void check_kept(const CMPIObjectPath* path, const Class& association) {
+  for (const int end : {0, 1}) {
+    const char* key = association.end(end).role;
+    CMPIStatus status = {CMPI_RC_OK, nullptr};
+    const CMPIData data = path->ft->getKey(path, key, &status);
+    check_kept(data, status, association.name(), key);
+  }
+}
+
+void check_kept(const CMPIInstance* instance, const Class& association) {
+  for (const int end : {0, 1}) {
+    const char* key = association.end(end).role;
+    CMPIStatus status = {CMPI_RC_OK, nullptr};
+    const CMPIData data = instance->ft->getProperty(instance, key, &status);
+    check_kept(data, status, association.name(), key);
+  }
+}
+
 }  // namespace
 
 Request::Request(const CMPIBroker* broker, ClassTable classes, const CMPIResult* result,
@@ -99,38 +128,6 @@ void Request::for_each_class(Visit visit) const {
 }
 
 // ---- building ----
-
-namespace {
-
-// Some object managers keep a path in a path as text, and lose the one that they cannot read again.
-// They would not survive to pass on a path that lost a key.
-void check_kept(const CMPIData& data, const CMPIStatus& status, const char* class_name,
-                const char* key) {
-  if (status.rc == CMPI_RC_OK && data.type == CMPI_ref && data.value.ref == nullptr)
-    throw Failure(CMPI_RC_ERR_FAILED,
-                  "the object manager cannot hold the object that \"%s\" of a %s names", key,
-                  class_name);
-}
-
-void check_kept(const CMPIObjectPath* path, const Class& association) {
-  for (const int end : {0, 1}) {
-    const char* key = association.end(end).role;
-    CMPIStatus status = {CMPI_RC_OK, nullptr};
-    const CMPIData data = path->ft->getKey(path, key, &status);
-    check_kept(data, status, association.name(), key);
-  }
-}
-
-void check_kept(const CMPIInstance* instance, const Class& association) {
-  for (const int end : {0, 1}) {
-    const char* key = association.end(end).role;
-    CMPIStatus status = {CMPI_RC_OK, nullptr};
-    const CMPIData data = instance->ft->getProperty(instance, key, &status);
-    check_kept(data, status, association.name(), key);
-  }
-}
-
-}  // namespace
 
 template <class Build>
 CMPIObjectPath* Request::build_path(const char* class_name, Build build) const {
