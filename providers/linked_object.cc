@@ -2,7 +2,6 @@
 
 #include <cim_utils/cmpi_computer_system.h>
 #include <cim_utils/cmpi_connectivity.h>
-#include <cim_utils/cmpi_switch.h>
 #include <cim_utils/cmpi_zoning.h>
 #include <cim_utils/fabric_configuration.h>
 #include <cim_utils/system.h>
@@ -124,8 +123,7 @@ CMPIObjectPath* path_of(const Target& to, const Node& node) {
   return node_reference(to, node);
 }
 CMPIObjectPath* path_of(const Target& to, const ConnectivityCollection& collection) {
-  return connectivity_collection_fill_reference(to.class_name, to.name_space,
-                                                static_cast<int>(collection.vsan), to.broker);
+  return connectivity_collection_reference(to, collection);
 }
 CMPIObjectPath* path_of(const Target& to, const ServiceOfZones& service) {
   return zone_service_fill_reference(to.class_name, to.name_space, static_cast<int>(service.vsan),
@@ -193,8 +191,7 @@ CMPIInstance* made_of(const Target& to, const Node& node) {
   return node_instance(to, node);
 }
 CMPIInstance* made_of(const Target& to, const ConnectivityCollection& collection) {
-  return connectivity_collection_build_instance(to.class_name, to.name_space,
-                                                static_cast<int>(collection.vsan), to.broker);
+  return connectivity_collection_instance(to, collection);
 }
 CMPIInstance* made_of(const Target& to, const ServiceOfZones& service) {
   return zone_service_build_instance(to.class_name, to.name_space, static_cast<int>(service.vsan),

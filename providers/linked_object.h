@@ -11,6 +11,7 @@
 #include "providers/computer_system.h"
 #include "providers/hardware.h"
 #include "providers/port.h"
+#include "providers/vsan.h"
 
 namespace vexor::providers {
 
@@ -35,9 +36,6 @@ struct PortSettings {
 };
 
 // What there is once for each VSAN.
-struct ConnectivityCollection {
-  uint32_t vsan;
-};
 struct ServiceOfZones {
   uint32_t vsan;
 };
