@@ -366,15 +366,20 @@ std::vector<fspfLinkEntry> own_links(int32_t q, uint32_t vsan) {
   return {links, links + count};
 }
 
-// visit(if_index, RemoteAccessPoint) for the far end of every own link, each once.
-template <class Visit>
-void for_each_remote_end(int32_t q, const std::vector<uint32_t>& vsans, Visit visit) {
+bool any_link(const fspfLinkEntry&) {
+  return true;
+}
+
+// visit(if_index, RemoteAccessPoint) for the far end of every own link that is wanted, each once.
+template <class Visit, class IsWanted>
+void for_each_remote_end(int32_t q, const std::vector<uint32_t>& vsans, IsWanted is_wanted,
+                         Visit visit) {
   std::unordered_set<uint32_t> listed;
   RemoteAccessPoint remote;
   for (const uint32_t vsan : vsans)
     for (const fspfLinkEntry& link : own_links(q, vsan))
       if (const uint32_t if_index = link.if_index;
-          !listed.contains(if_index) && remote_end(q, link, remote)) {
+          is_wanted(link) && !listed.contains(if_index) && remote_end(q, link, remote)) {
         listed.insert(if_index);
         visit(if_index, remote);
       }
@@ -408,7 +413,7 @@ std::vector<LinkedPair> remote_connections_among(int32_t q, const std::vector<Ow
   }
   std::vector<LinkedPair> found;
   const std::vector<uint32_t> vsans = running_vsans(q);
-  for_each_remote_end(q, vsans, [&](uint32_t if_index, const RemoteAccessPoint& remote) {
+  for_each_remote_end(q, vsans, any_link, [&](uint32_t if_index, const RemoteAccessPoint& remote) {
     const auto port = by_index.find(if_index);
     if (port != by_index.end()) found.push_back({*port->second, remote});
   });
@@ -433,28 +438,21 @@ void add_remote_device(int32_t q, const wwn_& wwn, std::vector<LinkedPair>& foun
 }
 
 // The own port that is linked to another switch's, by the name that FSPF gives a port of a device.
+// The own switch tells its links; the other one need not.
 void add_remote_end(int32_t q, const char* name, std::vector<LinkedPair>& found) {
   char text[kWwnText + 1] = {};
-  int32_t if_index = 0;
+  int32_t number = 0;
   int32_t type = 0;
-  wwn_ device;
-  if (fspf_cim_get_fields_from_physical_name(name, text, &if_index, &type) != 0 ||
-      !read_wwn(text, device))
-    return;
-  const wwn_ own = own_switch_wwn(q);
-  for (const LinkEnd& end : ends_in_vsans(q, device, static_cast<uint32_t>(if_index))) {
-    wwn_ shown;
-    if (dm_cim_get_switch_wwn_by_domain_id(
-            q, end.link.word_0, static_cast<uint8_t>(end.link.remote_domain), &shown) != 0 ||
-        !same_wwn(device_wwn_of(shown), own))
-      continue;
-    RemoteAccessPoint remote;
-    if (!remote_end(q, turned(end.link), remote)) continue;
-    const uint32_t here = end.link.remote_if_index;
-    for (const OwnPort& port : own_port(q, kind_of(here), here))
-      found.push_back({port, remote});
-    return;
-  }
+  if (fspf_cim_get_fields_from_physical_name(name, text, &number, &type) != 0) return;
+  const auto far_index = static_cast<uint32_t>(number);
+  for_each_remote_end(
+      q, running_vsans(q),
+      [&](const fspfLinkEntry& link) { return link.remote_if_index == far_index; },
+      [&](uint32_t if_index, const RemoteAccessPoint& remote) {
+        if (remote.name != name) return;
+        for (const OwnPort& port : own_port(q, kind_of(if_index), if_index))
+          found.push_back({port, remote});
+      });
 }
 
 }  // namespace
@@ -569,9 +567,7 @@ std::vector<LinkedPair> connected_endpoints(int32_t q) {
 
 std::vector<LinkedPair> connected_endpoints_of(int32_t q, int end, const ObjectName& object) {
   if (end == 1) return members(q, endpoints_named(q, object));
-  const char* text = object.text("InstanceID");
-  const uint32_t number =
-      text != nullptr ? static_cast<uint32_t>(std::strtoul(text, nullptr, 10)) : 0;
+  const uint32_t number = read_vsan_number(object.text("InstanceID"));
   vsanNewEntry_t vsan;
   if (number == 0 || !read_vsan_entry(q, number, vsan)) return {};
   std::vector<LinkedPair> found;
@@ -611,7 +607,7 @@ std::vector<RemoteAccessPoint> remote_access_points_named(int32_t q, const Objec
 std::vector<RemoteAccessPoint> remote_access_points(int32_t q) {
   std::vector<RemoteAccessPoint> found;
   const std::vector<uint32_t> vsans = running_vsans(q);
-  for_each_remote_end(q, vsans,
+  for_each_remote_end(q, vsans, any_link,
                       [&](uint32_t, const RemoteAccessPoint& remote) { found.push_back(remote); });
   for_each_remote_device(
       q, vsans, [&](const wwn_&, const RemoteAccessPoint& remote) { found.push_back(remote); });
