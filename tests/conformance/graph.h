@@ -50,8 +50,7 @@ class Quiet {
 };
 
 // A fabric on which everything is tested. Every reference answers `get` on all of them, without
-// exception: keys that stand for what a service refused ("none", "unknown system", "error during
-// get vsan id", an empty text) name objects like any other where they are made at all.
+// exception; what services refuse is tested by itself.
 struct TestedFabric {
   const char* name;
   // For the generator; or the path of a fabric file in the tests, which begins with '/'; empty: the

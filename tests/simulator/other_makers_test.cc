@@ -15,8 +15,9 @@ using switch_sim::Fabric;
 
 class OtherMakers : public SimulatorTest {
  protected:
-  OtherMakers() {
-    EXPECT_EQ(std::nullopt,
+  void SetUp() override {
+    SimulatorTest::SetUp();
+    ASSERT_EQ(std::nullopt,
               control::install_file(CIM_SOURCE_DIR "/tests/simulator/data/other_makers.json"));
   }
 
