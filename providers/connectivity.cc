@@ -82,6 +82,23 @@ std::vector<LinkEnd> ends_in_vsans(int32_t q, const wwn_& device, uint32_t if_in
   return found;
 }
 
+// The same where the switch does not tell the link: by the ends that other switches tell, for which
+// all links are read.
+std::vector<LinkEnd> ends_told_by_others(int32_t q, const wwn_& device, uint32_t if_index) {
+  std::vector<LinkEnd> found;
+  for (const uint32_t vsan : running_vsans(q))
+    for (const LinkEnd& end : link_ends_of_vsan(q, vsan))
+      if (interface_of(end) == if_index && same_wwn(device_wwn_of(end.switch_wwn), device))
+        found.push_back(end);
+  return found;
+}
+
+// Whether a port joins two switches.
+bool is_expansion_port(const OwnPort& port) {
+  constexpr uint16_t kE = 14;
+  return pm_cim_convert_port_mode(port.info->oper_mode) == kE;
+}
+
 // ---- one port in several forms ----
 
 void add_identities(const std::vector<LinkEnd>& ends, std::vector<LinkedPair>& found) {
@@ -106,8 +123,11 @@ void add_own_identities(const OwnPort& port, const std::vector<LinkEnd>& ends,
 
 void add_identities_of(int32_t q, const OwnPort& port, std::vector<LinkedPair>& found) {
   const wwn_ port_wwn = port.info->wwn;
-  add_own_identities(port, ends_in_vsans(q, own_switch_wwn(q), port.info->if_index),
-                     registered_behind(q, port.info->vsan, port_wwn), found);
+  const wwn_ own = own_switch_wwn(q);
+  std::vector<LinkEnd> ends = ends_in_vsans(q, own, port.info->if_index);
+  if (ends.empty() && is_expansion_port(port))
+    ends = ends_told_by_others(q, own, port.info->if_index);
+  add_own_identities(port, ends, registered_behind(q, port.info->vsan, port_wwn), found);
 }
 
 void add_identities_of(int32_t q, const LinkEnd& end, std::vector<LinkedPair>& found) {
@@ -115,7 +135,7 @@ void add_identities_of(int32_t q, const LinkEnd& end, std::vector<LinkedPair>& f
   const wwn_ device = device_wwn_of(end.switch_wwn);
   const uint32_t if_index = interface_of(end);
   std::vector<LinkEnd> ends = ends_in_vsans(q, device, if_index);
-  // A switch whose links FSPF does not tell is known by the far ends of the others'.
+  if (ends.empty()) ends = ends_told_by_others(q, device, if_index);
   if (ends.empty()) ends.push_back(end);
   add_identities(ends, found);
   if (!same_wwn(device, own_switch_wwn(q))) return;

@@ -62,6 +62,8 @@ TEST_F(OtherMakers, GoByTheirWwns) {
   EXPECT_EQ(value(device, "Name"), kKnownWwn);
   EXPECT_EQ(value(device, "PermanentAddress"), kKnownWwn);
   EXPECT_EQ(value(device, "PrimarySwitch"), "false");
+  EXPECT_EQ(value(device, "IPAddress"), "NULL");
+  EXPECT_EQ(value(device, "ElementName"), "");
 }
 
 // ---- ports of links ----
@@ -175,6 +177,25 @@ TEST_F(OneSidedLinks, OfTheOwnSwitchAreKnownFromTheOtherSideButForItsRemoteAcces
                 port_path("2000000DEC0A1B2C_16842754_1", "2000000DEC0A1B2C"));
   expect_not_found(remote_path("2000000DEC0A1B5E_16842754_1", "2000000DEC0A1B5E"));
   EXPECT_EQ(linked(port_path("16842754"), "VEXOR_SAPAvailableForElement"), Texts{});
+}
+
+// port-channel 1 of switch-3 carries two VSANs, in which the switch has domains 99 and 23.
+TEST_F(OneSidedLinks, AreThePortInEachOfTheirVsans) {
+  const std::string port = port_path("2000000DEC0A1B90_67108865_4", "2000000DEC0A1B90");
+  const Texts in_vsans = linked(port, "VEXOR_LogicalIdentity");
+  EXPECT_EQ(in_vsans.size(), 2u);
+  control::set_faults({untold(99), untold(23)});
+  EXPECT_EQ(linked(port, "VEXOR_LogicalIdentity"), in_vsans);
+  for (const std::string& each : in_vsans)
+    expect_linked(port, "VEXOR_LogicalIdentity", each);
+}
+
+TEST_F(OneSidedLinks, OfTheOwnSwitchAreThoseOfItsPorts) {
+  control::set_faults({untold(97), untold(21)});
+  expect_linked(port_path("16842754"), "VEXOR_LogicalIdentity",
+                port_path("2000000DEC0A1B2C_16842754_1"));
+  expect_linked(port_path("67108865"), "VEXOR_LogicalIdentity",
+                port_path("2000000DEC0A1B2C_67108865_4"));
 }
 
 TEST_F(OneSidedLinks, ThatNobodyTellsLeaveThePortsOfTheOwnSwitch) {
