@@ -145,7 +145,8 @@ TEST_F(OtherMakers, WhatTheyCannotHaveIsTold) {
       "switch 10:00:00:60:69:12:34:56, slot 5: another maker's switch has Fibre Channel modules in "
       "slots 1 to 4",
       problem_after([](Fabric& f) {
-        f.switches[1].modules.push_back({5, switch_sim::ModuleKind::fibre_channel});
+        f.switches[1].modules.push_back(
+            {5, switch_sim::ModuleKind::fibre_channel, switch_sim::ModuleState::ok, 4});
       }));
   EXPECT_EQ(
       "switch 10:00:00:60:69:12:34:56, slot 3: another maker's switch has Fibre Channel modules in "
