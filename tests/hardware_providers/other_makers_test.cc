@@ -63,7 +63,7 @@ TEST_F(OtherMakers, GoByTheirWwns) {
   EXPECT_EQ(value(device, "PermanentAddress"), kKnownWwn);
   EXPECT_EQ(value(device, "PrimarySwitch"), "false");
   EXPECT_EQ(value(device, "IPAddress"), "NULL");
-  EXPECT_EQ(value(device, "ElementName"), "");
+  EXPECT_EQ(value(device, "ElementName"), "NULL");
 }
 
 // ---- ports of links ----
