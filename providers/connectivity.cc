@@ -169,31 +169,33 @@ uint32_t vsan_of(const Port& port) {
   return std::visit([](const auto& form) { return vsan_of(form); }, port);
 }
 
-// The switch that has the port of an endpoint; none for the ports of devices.
-bool host_of(const OwnPort&, const wwn_& own, LinkedObject& host) {
-  host = switch_with_wwn(own, own);
+// The switch that has the port of an endpoint; none for the ports of devices, and where the
+// configuration server does not tell of the switch.
+bool host_of(const OwnPort&, Switches& switches, LinkedObject& host) {
+  host = switch_with_wwn(switches.own(), switches.own());
   return true;
 }
-bool host_of(const LinkEnd& end, const wwn_& own, LinkedObject& host) {
-  host = switch_in_vsan(end.switch_wwn, own);
+bool host_of(const LinkEnd& end, Switches& switches, LinkedObject& host) {
+  host = switch_in_vsan(end.switch_wwn, switches.own());
   return true;
 }
-bool host_of(const Attachment& side, const wwn_& own, LinkedObject& host) {
+bool host_of(const Attachment& side, Switches& switches, LinkedObject& host) {
   const wwn_ port_wwn = side.entry->fabric_port_wwn;
+  const uint32_t vsan = side.entry->vsan_index;
   wwn_ wwn{};
-  if (!side.fabric_side ||
-      wwn_cim_get_switch_wwn_from_port_wwn(side.entry->vsan_index, &wwn, &port_wwn) != 0)
+  if (!side.fabric_side || wwn_cim_get_switch_wwn_from_port_wwn(vsan, &wwn, &port_wwn) != 0 ||
+      !switches.has(vsan, wwn))
     return false;
-  host = switch_in_vsan(wwn, own);
+  host = switch_in_vsan(wwn, switches.own());
   return true;
 }
 
 std::vector<LinkedPair> hosted(int32_t q, const std::vector<Port>& endpoints) {
   std::vector<LinkedPair> found;
-  const wwn_ own = own_switch_wwn(q);
+  Switches switches(q);
   LinkedObject host;
   for (const Port& port : endpoints)
-    if (std::visit([&](const auto& form) { return host_of(form, own, host); }, port))
+    if (std::visit([&](const auto& form) { return host_of(form, switches, host); }, port))
       found.push_back({host, Endpoint{port}});
   return found;
 }

@@ -252,6 +252,13 @@ wwn_ own_switch_wwn(int32_t q) {
   return wwn;
 }
 
+bool Switches::has(uint32_t vsan, const wwn_& shown) {
+  const auto [known, is_new] = known_.try_emplace({vsan, number_of(shown)}, false);
+  fcs_cim_ie_ element{};
+  if (is_new) known->second = fcs_cim_get_ie_entry(q_, 1, vsan, &shown, &element) == 0;
+  return known->second;
+}
+
 PhysicalSwitch switch_with_wwn(const wwn_& wwn, const wwn_& own) {
   PhysicalSwitch made{{}, !same_wwn(wwn, own)};
   std::memcpy(made.wwn, text_of(wwn).c_str(), sizeof made.wwn);

@@ -290,6 +290,14 @@ switch_sim::Fault links_not_told(uint32_t domain) {
   return fault;
 }
 
+// The configuration server does not tell of switches whose WWNs begin so.
+switch_sim::Fault no_element(uint32_t beginning) {
+  switch_sim::Fault fault = links_not_told(0);
+  fault.opcode = 1402;
+  fault.word = {8, beginning};
+  return fault;
+}
+
 // The record of a switch ends before its last link.
 switch_sim::Fault links_cut(uint32_t domain, int32_t bytes) {
   switch_sim::Fault fault = links_not_told(domain);
@@ -308,6 +316,7 @@ INSTANTIATE_TEST_SUITE_P(
         TestedFabric{"OtherMakers", kOtherMakers},
         TestedFabric{
             "OtherMakersThatTellNoLinks", kOtherMakers, {links_not_told(5), links_not_told(6)}},
+        TestedFabric{"OtherMakersThatAreNoElements", kOtherMakers, {no_element(0x10000060)}},
         TestedFabric{"LinksThatOneSideTells",
                      "",
                      {links_not_told(98), links_cut(99, 72), links_not_told(21)}},

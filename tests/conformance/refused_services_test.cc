@@ -45,6 +45,7 @@ const std::vector<Refusal>& refusals() {
       {"the domain manager's configuration", {refused(264)}},
       {"the domain database", {refused(267)}},
       {"the elements of VSAN 2", {refused(1401, Fault::Word{0, 2})}},
+      {"each element of VSAN 1", {refused(1402, Fault::Word{4, 1})}},
       {"the links", {refused(53)}},
       {"the address list and the peers",
        {refused(switch_sim::kSwitchAddresses), refused(switch_sim::kDiscoverPeers)}},

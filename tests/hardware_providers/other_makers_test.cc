@@ -115,6 +115,28 @@ TEST_F(OtherMakers, HaveThePortsThatDevicesLogInAtWhereTheirWwnsAreKnown) {
   EXPECT_EQ(linked(endpoint_path("2_1_2100001122334403", ""), "VEXOR_HostedAccessPoint"), Texts{});
 }
 
+// ---- switches that the configuration server does not tell of ----
+
+TEST_F(OtherMakers, ThatAreNoElementsAreNoObjectsAndNothingLeadsToThem) {
+  Fault no_element;
+  no_element.opcode = 1402;
+  no_element.word = {8, 0x10000060};
+  no_element.value = 0x40300002;
+  control::set_faults({no_element});
+  expect_not_found(known_);
+  const std::string attached = port_path("2_2041006069123456", "unknown system");
+  for (const std::string& port :
+       {attached, port_path("2_1_2041006069123456", "unknown system", kLogical)})
+    EXPECT_EQ(linked(port, "VEXOR_SystemDevice"), Texts{}) << port;
+  EXPECT_EQ(linked(endpoint_path("2_1_2100001122334402", ""), "VEXOR_HostedAccessPoint"), Texts{});
+  // The own switch knows what its port is linked to all the same.
+  expect_linked(port_path(kLinked), "VEXOR_SAPAvailableForElement",
+                remote_path("1000006069123456_3_1", kKnownWwn));
+  // The device behind it is there, too.
+  expect_linked(attached, "VEXOR_LogicalIdentity",
+                port_path("2_1_2041006069123456", "unknown system", kLogical));
+}
+
 // ---- links that one side tells ----
 
 TEST_F(OtherMakers, ThatTellNoLinksAreKnownByTheOwnSwitchs) {
