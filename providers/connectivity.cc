@@ -176,6 +176,7 @@ bool host_of(const OwnPort&, Switches& switches, LinkedObject& host) {
   return true;
 }
 bool host_of(const LinkEnd& end, Switches& switches, LinkedObject& host) {
+  if (!switches.has(end.link.word_0, end.switch_wwn)) return false;
   host = switch_in_vsan(end.switch_wwn, switches.own());
   return true;
 }

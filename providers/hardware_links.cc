@@ -56,8 +56,11 @@ bool switch_of_port(uint32_t vsan, const wwn_& port_wwn, wwn_& wwn) {
 
 void add_device_of(const LinkEnd& end, Switches& switches, std::vector<LinkedPair>& found) {
   const wwn_& own = switches.own();
+  const wwn_ device = device_wwn_of(end.switch_wwn);
+  const bool is_own_device = end.physical && same_wwn(device, own);
+  if (!is_own_device && !switches.has(end.link.word_0, end.switch_wwn)) return;
   if (end.physical) {
-    found.push_back({switch_with_wwn(device_wwn_of(end.switch_wwn), own), end});
+    found.push_back({switch_with_wwn(device, own), end});
   } else {
     found.push_back({switch_in_vsan(end.switch_wwn, own), end});
   }
@@ -75,7 +78,7 @@ void add_device_of(const Attachment& side, Switches& switches, std::vector<Linke
     return;
   if (!side.physical) {
     if (switches.has(vsan, shown)) found.push_back({switch_in_vsan(shown, own), side});
-  } else if (same_wwn(device, own) || switches.has(vsan, shown) || switches.has(vsan, device)) {
+  } else if (same_wwn(device, own) || switches.has(vsan, device)) {
     found.push_back({switch_with_wwn(device, own), side});
   }
 }

@@ -252,10 +252,17 @@ wwn_ own_switch_wwn(int32_t q) {
   return wwn;
 }
 
-bool Switches::has(uint32_t vsan, const wwn_& shown) {
-  const auto [known, is_new] = known_.try_emplace({vsan, number_of(shown)}, false);
-  fcs_cim_ie_ element{};
-  if (is_new) known->second = fcs_cim_get_ie_entry(q_, 1, vsan, &shown, &element) == 0;
+bool Switches::has(uint32_t vsan, const wwn_& wwn) {
+  const auto [known, is_new] = known_.try_emplace({vsan, number_of(wwn)}, false);
+  if (!is_new) return known->second;
+  const auto is_told = [&](const wwn_& of) {
+    fcs_cim_ie_ element{};
+    return fcs_cim_get_ie_entry(q_, 1, vsan, &of, &element) == 0;
+  };
+  wwn_ shown = wwn;
+  if (wwn_cim_get_vsan_index_from_wwn_str(wwn.bytes) == 0)
+    wwn_cim_get_vsan_wwn_from_switch_unique_wwn(vsan, &shown, &wwn);
+  known->second = is_told(shown) || (!same_wwn(shown, wwn) && is_told(wwn));
   return known->second;
 }
 

@@ -86,9 +86,9 @@ class Switches {
   explicit Switches(int32_t q) : q_(q), own_(own_switch_wwn(q)) {}
 
   const wwn_& own() const { return own_; }
-  // Whether the configuration server tells of a switch by the WWN that it shows in a VSAN: there is
-  // no object of another one. Asks once for each.
-  bool has(uint32_t vsan, const wwn_& shown);
+  // Whether the configuration server tells of a switch in a VSAN, by the WWN that it shows there or
+  // by that of the device: there is no object of another one. Asks once for each.
+  bool has(uint32_t vsan, const wwn_& wwn);
 
  private:
   int32_t q_;

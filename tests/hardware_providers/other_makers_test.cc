@@ -132,6 +132,13 @@ TEST_F(OtherMakers, ThatAreNoElementsAreNoObjectsAndNothingLeadsToThem) {
   // The own switch knows what its port is linked to all the same.
   expect_linked(port_path(kLinked), "VEXOR_SAPAvailableForElement",
                 remote_path("1000006069123456_3_1", kKnownWwn));
+  // So do FSPF and the domain manager, by which its port is a port without a system.
+  expect_linked(own_endpoint_, "VEXOR_ActiveConnection", endpoint_);
+  expect_linked(device_port_, "VEXOR_LogicalIdentity", port_in_vsan_);
+  for (const std::string& port : {device_port_, port_in_vsan_})
+    EXPECT_EQ(linked(port, "VEXOR_SystemDevice"), Texts{}) << port;
+  EXPECT_EQ(linked(endpoint_, "VEXOR_HostedAccessPoint"), Texts{});
+  EXPECT_EQ(count("VEXOR_ActiveConnection"), 3u + 3u);
   // The device behind it is there, too.
   expect_linked(attached, "VEXOR_LogicalIdentity",
                 port_path("2_1_2041006069123456", "unknown system", kLogical));
