@@ -15,6 +15,16 @@ constexpr char kLogicalIdentity[] = "VEXOR_LogicalIdentity";
 constexpr char kEndpoint[] = "VEXOR_ProtocolEndPoint";
 constexpr char kPort[] = "VEXOR_FCPort";
 
+// The reference of an association; unlike the generic builders' it is null where the broker gives
+// no path that can be used.
+CMPIObjectPath* tied_by(const char* className, const char* nameSpace, const CMPIObjectPath* first,
+                        const CMPIObjectPath* second, const char* firstRole, const char* secondRole,
+                        const CMPIBroker* broker) {
+  CMPIObjectPath* path = association_class_fill_reference_path(className, nameSpace, first, second,
+                                                               firstRole, secondRole, broker);
+  return usable(path) ? path : nullptr;
+}
+
 struct Ends {
   const CMPIObjectPath* first;
   const CMPIObjectPath* second;
@@ -65,8 +75,7 @@ CMPIObjectPath* logical_identity_fill_reference(const char* className, const cha
                                                 const CMPIObjectPath* systemRef,
                                                 const CMPIObjectPath* sameRef,
                                                 const CMPIBroker* broker) {
-  return association_class_fill_reference_path(className, nameSpace, systemRef, sameRef,
-                                               "SystemElement", "SameElement", broker);
+  return tied_by(className, nameSpace, systemRef, sameRef, "SystemElement", "SameElement", broker);
 }
 
 CMPIInstance* hosted_dependency_build_instance(const char* className, const char* nameSpace,
@@ -81,8 +90,7 @@ CMPIObjectPath* hosted_dependency_fill_reference(const char* className, const ch
                                                  const CMPIObjectPath* hostRef,
                                                  const CMPIObjectPath* hostedRef,
                                                  const CMPIBroker* broker) {
-  return association_class_fill_reference_path(className, nameSpace, hostRef, hostedRef,
-                                               "Antecedent", "Dependent", broker);
+  return tied_by(className, nameSpace, hostRef, hostedRef, "Antecedent", "Dependent", broker);
 }
 
 CMPIInstance* hosted_access_point_build_instance(const char* className, const char* nameSpace,
@@ -97,8 +105,8 @@ CMPIObjectPath* hosted_access_point_fill_reference(const char* className, const 
                                                    const CMPIObjectPath* systemRef,
                                                    const CMPIObjectPath* accessPointRef,
                                                    const CMPIBroker* broker) {
-  return association_class_fill_reference_path(className, nameSpace, systemRef, accessPointRef,
-                                               "Antecedent", "Dependent", broker);
+  return tied_by(className, nameSpace, systemRef, accessPointRef, "Antecedent", "Dependent",
+                 broker);
 }
 
 CMPIInstance* device_sap_implementation_build_instance(const char* className, const char* nameSpace,
@@ -114,8 +122,8 @@ CMPIObjectPath* device_sap_implementation_fill_reference(const char* className,
                                                          const CMPIObjectPath* deviceRef,
                                                          const CMPIObjectPath* accessPointRef,
                                                          const CMPIBroker* broker) {
-  return association_class_fill_reference_path(className, nameSpace, deviceRef, accessPointRef,
-                                               "Antecedent", "Dependent", broker);
+  return tied_by(className, nameSpace, deviceRef, accessPointRef, "Antecedent", "Dependent",
+                 broker);
 }
 
 CMPIInstance* active_connection_build_instance(const char* className, const char* nameSpace,
@@ -130,8 +138,7 @@ CMPIObjectPath* active_connection_fill_reference(const char* className, const ch
                                                  const CMPIObjectPath* fromRef,
                                                  const CMPIObjectPath* toRef,
                                                  const CMPIBroker* broker) {
-  return association_class_fill_reference_path(className, nameSpace, fromRef, toRef, "Antecedent",
-                                               "Dependent", broker);
+  return tied_by(className, nameSpace, fromRef, toRef, "Antecedent", "Dependent", broker);
 }
 
 CMPIInstance* fcnode_member_collection_build_instance(const char* className, const char* nameSpace,
@@ -147,8 +154,7 @@ CMPIObjectPath* fcnode_member_collection_fill_reference(const char* className,
                                                         const CMPIObjectPath* groupRef,
                                                         const CMPIObjectPath* portRef,
                                                         const CMPIBroker* broker) {
-  return association_class_fill_reference_path(className, nameSpace, groupRef, portRef,
-                                               "Collection", "Member", broker);
+  return tied_by(className, nameSpace, groupRef, portRef, "Collection", "Member", broker);
 }
 
 CMPIInstance* connectivity_member_collection_build_instance(const char* className,
@@ -165,8 +171,7 @@ CMPIObjectPath* connectivity_member_collection_fill_reference(const char* classN
                                                               const CMPIObjectPath* collectionRef,
                                                               const CMPIObjectPath* memberRef,
                                                               const CMPIBroker* broker) {
-  return association_class_fill_reference_path(className, nameSpace, collectionRef, memberRef,
-                                               "Collection", "Member", broker);
+  return tied_by(className, nameSpace, collectionRef, memberRef, "Collection", "Member", broker);
 }
 
 CMPIInstance* system_device_build_instance(const char* className, const char* nameSpace,
@@ -181,8 +186,8 @@ CMPIObjectPath* system_device_fill_reference(const char* className, const char* 
                                              const CMPIObjectPath* systemRef,
                                              const CMPIObjectPath* deviceRef,
                                              const CMPIBroker* broker) {
-  return association_class_fill_reference_path(className, nameSpace, systemRef, deviceRef,
-                                               "GroupComponent", "PartComponent", broker);
+  return tied_by(className, nameSpace, systemRef, deviceRef, "GroupComponent", "PartComponent",
+                 broker);
 }
 
 CMPIInstance* active_connection_build_instance_fspf(const char* className, const char* nameSpace,

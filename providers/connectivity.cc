@@ -82,6 +82,23 @@ std::vector<LinkEnd> ends_in_vsans(int32_t q, const wwn_& device, uint32_t if_in
   return found;
 }
 
+// The same where the switch does not tell the link: by the ends that other switches tell, for which
+// all links are read.
+std::vector<LinkEnd> ends_told_by_others(int32_t q, const wwn_& device, uint32_t if_index) {
+  std::vector<LinkEnd> found;
+  for (const uint32_t vsan : running_vsans(q))
+    for (const LinkEnd& end : link_ends_of_vsan(q, vsan))
+      if (interface_of(end) == if_index && same_wwn(device_wwn_of(end.switch_wwn), device))
+        found.push_back(end);
+  return found;
+}
+
+// Whether a port joins two switches.
+bool is_expansion_port(const OwnPort& port) {
+  constexpr uint16_t kE = 14;
+  return pm_cim_convert_port_mode(port.info->oper_mode) == kE;
+}
+
 // ---- one port in several forms ----
 
 void add_identities(const std::vector<LinkEnd>& ends, std::vector<LinkedPair>& found) {
@@ -106,8 +123,11 @@ void add_own_identities(const OwnPort& port, const std::vector<LinkEnd>& ends,
 
 void add_identities_of(int32_t q, const OwnPort& port, std::vector<LinkedPair>& found) {
   const wwn_ port_wwn = port.info->wwn;
-  add_own_identities(port, ends_in_vsans(q, own_switch_wwn(q), port.info->if_index),
-                     registered_behind(q, port.info->vsan, port_wwn), found);
+  const wwn_ own = own_switch_wwn(q);
+  std::vector<LinkEnd> ends = ends_in_vsans(q, own, port.info->if_index);
+  if (ends.empty() && is_expansion_port(port))
+    ends = ends_told_by_others(q, own, port.info->if_index);
+  add_own_identities(port, ends, registered_behind(q, port.info->vsan, port_wwn), found);
 }
 
 void add_identities_of(int32_t q, const LinkEnd& end, std::vector<LinkedPair>& found) {
@@ -115,7 +135,7 @@ void add_identities_of(int32_t q, const LinkEnd& end, std::vector<LinkedPair>& f
   const wwn_ device = device_wwn_of(end.switch_wwn);
   const uint32_t if_index = interface_of(end);
   std::vector<LinkEnd> ends = ends_in_vsans(q, device, if_index);
-  // A switch whose links FSPF does not tell is known by the far ends of the others'.
+  if (ends.empty()) ends = ends_told_by_others(q, device, if_index);
   if (ends.empty()) ends.push_back(end);
   add_identities(ends, found);
   if (!same_wwn(device, own_switch_wwn(q))) return;
@@ -149,31 +169,34 @@ uint32_t vsan_of(const Port& port) {
   return std::visit([](const auto& form) { return vsan_of(form); }, port);
 }
 
-// The switch that has the port of an endpoint; none for the ports of devices.
-bool host_of(const OwnPort&, const wwn_& own, LinkedObject& host) {
-  host = switch_with_wwn(own, own);
+// The switch that has the port of an endpoint; none for the ports of devices, and where the
+// configuration server does not tell of the switch.
+bool host_of(const OwnPort&, Switches& switches, LinkedObject& host) {
+  host = switch_with_wwn(switches.own(), switches.own());
   return true;
 }
-bool host_of(const LinkEnd& end, const wwn_& own, LinkedObject& host) {
-  host = switch_in_vsan(end.switch_wwn, own);
+bool host_of(const LinkEnd& end, Switches& switches, LinkedObject& host) {
+  if (!switches.has(end.link.word_0, end.switch_wwn)) return false;
+  host = switch_in_vsan(end.switch_wwn, switches.own());
   return true;
 }
-bool host_of(const Attachment& side, const wwn_& own, LinkedObject& host) {
+bool host_of(const Attachment& side, Switches& switches, LinkedObject& host) {
   const wwn_ port_wwn = side.entry->fabric_port_wwn;
+  const uint32_t vsan = side.entry->vsan_index;
   wwn_ wwn{};
-  if (!side.fabric_side ||
-      wwn_cim_get_switch_wwn_from_port_wwn(side.entry->vsan_index, &wwn, &port_wwn) != 0)
+  if (!side.fabric_side || wwn_cim_get_switch_wwn_from_port_wwn(vsan, &wwn, &port_wwn) != 0 ||
+      !switches.has(vsan, wwn))
     return false;
-  host = switch_in_vsan(wwn, own);
+  host = switch_in_vsan(wwn, switches.own());
   return true;
 }
 
 std::vector<LinkedPair> hosted(int32_t q, const std::vector<Port>& endpoints) {
   std::vector<LinkedPair> found;
-  const wwn_ own = own_switch_wwn(q);
+  Switches switches(q);
   LinkedObject host;
   for (const Port& port : endpoints)
-    if (std::visit([&](const auto& form) { return host_of(form, own, host); }, port))
+    if (std::visit([&](const auto& form) { return host_of(form, switches, host); }, port))
       found.push_back({host, Endpoint{port}});
   return found;
 }
@@ -366,15 +389,20 @@ std::vector<fspfLinkEntry> own_links(int32_t q, uint32_t vsan) {
   return {links, links + count};
 }
 
-// visit(if_index, RemoteAccessPoint) for the far end of every own link, each once.
-template <class Visit>
-void for_each_remote_end(int32_t q, const std::vector<uint32_t>& vsans, Visit visit) {
+bool any_link(const fspfLinkEntry&) {
+  return true;
+}
+
+// visit(if_index, RemoteAccessPoint) for the far end of every own link that is wanted, each once.
+template <class Visit, class IsWanted>
+void for_each_remote_end(int32_t q, const std::vector<uint32_t>& vsans, IsWanted is_wanted,
+                         Visit visit) {
   std::unordered_set<uint32_t> listed;
   RemoteAccessPoint remote;
   for (const uint32_t vsan : vsans)
     for (const fspfLinkEntry& link : own_links(q, vsan))
       if (const uint32_t if_index = link.if_index;
-          !listed.contains(if_index) && remote_end(q, link, remote)) {
+          is_wanted(link) && !listed.contains(if_index) && remote_end(q, link, remote)) {
         listed.insert(if_index);
         visit(if_index, remote);
       }
@@ -408,7 +436,7 @@ std::vector<LinkedPair> remote_connections_among(int32_t q, const std::vector<Ow
   }
   std::vector<LinkedPair> found;
   const std::vector<uint32_t> vsans = running_vsans(q);
-  for_each_remote_end(q, vsans, [&](uint32_t if_index, const RemoteAccessPoint& remote) {
+  for_each_remote_end(q, vsans, any_link, [&](uint32_t if_index, const RemoteAccessPoint& remote) {
     const auto port = by_index.find(if_index);
     if (port != by_index.end()) found.push_back({*port->second, remote});
   });
@@ -433,28 +461,21 @@ void add_remote_device(int32_t q, const wwn_& wwn, std::vector<LinkedPair>& foun
 }
 
 // The own port that is linked to another switch's, by the name that FSPF gives a port of a device.
+// The own switch tells its links; the other one need not.
 void add_remote_end(int32_t q, const char* name, std::vector<LinkedPair>& found) {
   char text[kWwnText + 1] = {};
-  int32_t if_index = 0;
+  int32_t number = 0;
   int32_t type = 0;
-  wwn_ device;
-  if (fspf_cim_get_fields_from_physical_name(name, text, &if_index, &type) != 0 ||
-      !read_wwn(text, device))
-    return;
-  const wwn_ own = own_switch_wwn(q);
-  for (const LinkEnd& end : ends_in_vsans(q, device, static_cast<uint32_t>(if_index))) {
-    wwn_ shown;
-    if (dm_cim_get_switch_wwn_by_domain_id(
-            q, end.link.word_0, static_cast<uint8_t>(end.link.remote_domain), &shown) != 0 ||
-        !same_wwn(device_wwn_of(shown), own))
-      continue;
-    RemoteAccessPoint remote;
-    if (!remote_end(q, turned(end.link), remote)) continue;
-    const uint32_t here = end.link.remote_if_index;
-    for (const OwnPort& port : own_port(q, kind_of(here), here))
-      found.push_back({port, remote});
-    return;
-  }
+  if (fspf_cim_get_fields_from_physical_name(name, text, &number, &type) != 0) return;
+  const auto far_index = static_cast<uint32_t>(number);
+  for_each_remote_end(
+      q, running_vsans(q),
+      [&](const fspfLinkEntry& link) { return link.remote_if_index == far_index; },
+      [&](uint32_t if_index, const RemoteAccessPoint& remote) {
+        if (remote.name != name) return;
+        for (const OwnPort& port : own_port(q, kind_of(if_index), if_index))
+          found.push_back({port, remote});
+      });
 }
 
 }  // namespace
@@ -569,9 +590,7 @@ std::vector<LinkedPair> connected_endpoints(int32_t q) {
 
 std::vector<LinkedPair> connected_endpoints_of(int32_t q, int end, const ObjectName& object) {
   if (end == 1) return members(q, endpoints_named(q, object));
-  const char* text = object.text("InstanceID");
-  const uint32_t number =
-      text != nullptr ? static_cast<uint32_t>(std::strtoul(text, nullptr, 10)) : 0;
+  const uint32_t number = read_vsan_number(object.text("InstanceID"));
   vsanNewEntry_t vsan;
   if (number == 0 || !read_vsan_entry(q, number, vsan)) return {};
   std::vector<LinkedPair> found;
@@ -611,7 +630,7 @@ std::vector<RemoteAccessPoint> remote_access_points_named(int32_t q, const Objec
 std::vector<RemoteAccessPoint> remote_access_points(int32_t q) {
   std::vector<RemoteAccessPoint> found;
   const std::vector<uint32_t> vsans = running_vsans(q);
-  for_each_remote_end(q, vsans,
+  for_each_remote_end(q, vsans, any_link,
                       [&](uint32_t, const RemoteAccessPoint& remote) { found.push_back(remote); });
   for_each_remote_device(
       q, vsans, [&](const wwn_&, const RemoteAccessPoint& remote) { found.push_back(remote); });

@@ -54,45 +54,52 @@ bool switch_of_port(uint32_t vsan, const wwn_& port_wwn, wwn_& wwn) {
   return wwn_cim_get_switch_wwn_from_port_wwn(vsan, &wwn, &port_wwn) == 0;
 }
 
-void add_device_of(const LinkEnd& end, const wwn_& own, std::vector<LinkedPair>& found) {
+void add_device_of(const LinkEnd& end, Switches& switches, std::vector<LinkedPair>& found) {
+  const wwn_& own = switches.own();
+  const wwn_ device = device_wwn_of(end.switch_wwn);
+  const bool is_own_device = end.physical && same_wwn(device, own);
+  if (!is_own_device && !switches.has(end.link.word_0, end.switch_wwn)) return;
   if (end.physical) {
-    found.push_back({switch_with_wwn(device_wwn_of(end.switch_wwn), own), end});
+    found.push_back({switch_with_wwn(device, own), end});
   } else {
     found.push_back({switch_in_vsan(end.switch_wwn, own), end});
   }
 }
 
-// Ports of devices belong to no switch.
-void add_device_of(const Attachment& side, const wwn_& own, std::vector<LinkedPair>& found) {
+// Ports of devices belong to no switch, and those of a switch that the configuration server does
+// not tell of to none that there is an object of.
+void add_device_of(const Attachment& side, Switches& switches, std::vector<LinkedPair>& found) {
+  const wwn_& own = switches.own();
+  const uint32_t vsan = side.entry->vsan_index;
   const wwn_ port_wwn = side.entry->fabric_port_wwn;
-  wwn_ wwn;
-  if (!side.fabric_side ||
-      !switch_of_port(side.physical ? 0 : side.entry->vsan_index, port_wwn, wwn))
+  wwn_ device, shown;
+  if (!side.fabric_side || !switch_of_port(0, port_wwn, device) ||
+      !switch_of_port(vsan, port_wwn, shown))
     return;
-  if (side.physical) {
-    found.push_back({switch_with_wwn(wwn, own), side});
-  } else {
-    found.push_back({switch_in_vsan(wwn, own), side});
+  if (!side.physical) {
+    if (switches.has(vsan, shown)) found.push_back({switch_in_vsan(shown, own), side});
+  } else if (same_wwn(device, own) || switches.has(vsan, device)) {
+    found.push_back({switch_with_wwn(device, own), side});
   }
 }
 
-void add_device_of(const OwnPort& port, const wwn_& own, std::vector<LinkedPair>& found) {
-  found.push_back({switch_with_wwn(own, own), port});
+void add_device_of(const OwnPort& port, Switches& switches, std::vector<LinkedPair>& found) {
+  found.push_back({switch_with_wwn(switches.own(), switches.own()), port});
 }
 
-void add_devices_of_own_switch(int32_t q, const wwn_& own, std::vector<LinkedPair>& found) {
+void add_devices_of_own_switch(int32_t q, Switches& switches, std::vector<LinkedPair>& found) {
   for (const Module& module : modules(q))
-    found.push_back({switch_with_wwn(own, own), module});
+    found.push_back({switch_with_wwn(switches.own(), switches.own()), module});
   for (const OwnPort& port : all_own_ports(q))
-    add_device_of(port, own, found);
+    add_device_of(port, switches, found);
 }
 
-void add_devices_of_links(int32_t q, const wwn_& own, std::vector<LinkedPair>& found) {
+void add_devices_of_links(int32_t q, Switches& switches, std::vector<LinkedPair>& found) {
   const std::vector<uint32_t> vsans = running_vsans(q);
   for (const LinkEnd& end : link_ends(q, vsans))
-    add_device_of(end, own, found);
+    add_device_of(end, switches, found);
   for (const Attachment& side : attachments(registrations(q, vsans)))
-    add_device_of(side, own, found);
+    add_device_of(side, switches, found);
 }
 
 // ---- parts of switches ----
@@ -184,27 +191,28 @@ std::vector<LinkedPair> module_ports_of(int32_t q, int end, const ObjectName& ob
 
 std::vector<LinkedPair> system_devices(int32_t q) {
   std::vector<LinkedPair> found;
-  const wwn_ own = own_switch_wwn(q);
-  add_devices_of_own_switch(q, own, found);
-  add_devices_of_links(q, own, found);
+  Switches switches(q);
+  add_devices_of_own_switch(q, switches, found);
+  add_devices_of_links(q, switches, found);
   return found;
 }
 
 std::vector<LinkedPair> system_devices_of(int32_t q, int end, const ObjectName& object) {
   std::vector<LinkedPair> found;
-  const wwn_ own = own_switch_wwn(q);
+  Switches switches(q);
+  const PhysicalSwitch own = switch_with_wwn(switches.own(), switches.own());
   if (end == 0) {
-    if (names_switch(object, switch_with_wwn(own, own))) add_devices_of_own_switch(q, own, found);
-    add_devices_of_links(q, own, found);
+    if (names_switch(object, own)) add_devices_of_own_switch(q, switches, found);
+    add_devices_of_links(q, switches, found);
     return found;
   }
   if (is_class(object, "VEXOR_LogicalModule")) {
     for (const Module& module : modules_named(q, object))
-      found.push_back({switch_with_wwn(own, own), module});
+      found.push_back({own, module});
     return found;
   }
   for (const Port& port : ports_like(q, object))
-    std::visit([&](const auto& form) { add_device_of(form, own, found); }, port);
+    std::visit([&](const auto& form) { add_device_of(form, switches, found); }, port);
   return found;
 }
 

@@ -2,7 +2,6 @@
 
 #include <cim_utils/cmpi_computer_system.h>
 #include <cim_utils/cmpi_connectivity.h>
-#include <cim_utils/cmpi_switch.h>
 #include <cim_utils/cmpi_zoning.h>
 #include <cim_utils/fabric_configuration.h>
 #include <cim_utils/system.h>
@@ -124,8 +123,7 @@ CMPIObjectPath* path_of(const Target& to, const Node& node) {
   return node_reference(to, node);
 }
 CMPIObjectPath* path_of(const Target& to, const ConnectivityCollection& collection) {
-  return connectivity_collection_fill_reference(to.class_name, to.name_space,
-                                                static_cast<int>(collection.vsan), to.broker);
+  return connectivity_collection_reference(to, collection);
 }
 CMPIObjectPath* path_of(const Target& to, const ServiceOfZones& service) {
   return zone_service_fill_reference(to.class_name, to.name_space, static_cast<int>(service.vsan),
@@ -193,8 +191,7 @@ CMPIInstance* made_of(const Target& to, const Node& node) {
   return node_instance(to, node);
 }
 CMPIInstance* made_of(const Target& to, const ConnectivityCollection& collection) {
-  return connectivity_collection_build_instance(to.class_name, to.name_space,
-                                                static_cast<int>(collection.vsan), to.broker);
+  return connectivity_collection_instance(to, collection);
 }
 CMPIInstance* made_of(const Target& to, const ServiceOfZones& service) {
   return zone_service_build_instance(to.class_name, to.name_space, static_cast<int>(service.vsan),
@@ -253,6 +250,20 @@ wwn_ own_switch_wwn(int32_t q) {
   if (system_cim_get_switch_wwn(q, &wwn) != 0)
     throw Failure(CMPI_RC_ERR_FAILED, "the switch identity service does not tell the switch's WWN");
   return wwn;
+}
+
+bool Switches::has(uint32_t vsan, const wwn_& wwn) {
+  const auto [known, is_new] = known_.try_emplace({vsan, number_of(wwn)}, false);
+  if (!is_new) return known->second;
+  const auto is_told = [&](const wwn_& of) {
+    fcs_cim_ie_ element{};
+    return fcs_cim_get_ie_entry(q_, 1, vsan, &of, &element) == 0;
+  };
+  wwn_ shown = wwn;
+  if (wwn_cim_get_vsan_index_from_wwn_str(wwn.bytes) == 0)
+    wwn_cim_get_vsan_wwn_from_switch_unique_wwn(vsan, &shown, &wwn);
+  known->second = is_told(shown) || (!same_wwn(shown, wwn) && is_told(wwn));
+  return known->second;
 }
 
 PhysicalSwitch switch_with_wwn(const wwn_& wwn, const wwn_& own) {

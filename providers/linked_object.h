@@ -4,13 +4,16 @@
 
 #include <switch_platform/types.h>
 
+#include <map>
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
 #include "providers/computer_system.h"
 #include "providers/hardware.h"
 #include "providers/port.h"
+#include "providers/vsan.h"
 
 namespace vexor::providers {
 
@@ -35,9 +38,6 @@ struct PortSettings {
 };
 
 // What there is once for each VSAN.
-struct ConnectivityCollection {
-  uint32_t vsan;
-};
 struct ServiceOfZones {
   uint32_t vsan;
 };
@@ -78,6 +78,24 @@ std::vector<OwnPort> all_own_ports(int32_t q);
 
 // Throws Failure when the switch identity service does not answer.
 wwn_ own_switch_wwn(int32_t q);
+
+// The switches that a request comes across.
+class Switches {
+ public:
+  // Throws Failure when the switch identity service does not answer.
+  explicit Switches(int32_t q) : q_(q), own_(own_switch_wwn(q)) {}
+
+  const wwn_& own() const { return own_; }
+  // Whether the configuration server tells of a switch in a VSAN, by the WWN that it shows there or
+  // by that of the device: there is no object of another one. Asks once for each.
+  bool has(uint32_t vsan, const wwn_& wwn);
+
+ private:
+  int32_t q_;
+  wwn_ own_;
+  std::map<std::pair<uint32_t, uint64_t>, bool> known_;
+};
+
 // A device by its WWN, as against the own switch's.
 PhysicalSwitch switch_with_wwn(const wwn_& wwn, const wwn_& own);
 // The device of a switch that shows a WWN in a VSAN.

@@ -5,6 +5,7 @@
 #include <cim_utils/fspf.h>
 #include <cim_utils/vsan.h>
 
+#include <optional>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -181,9 +182,22 @@ std::vector<uint32_t> running_vsans(int32_t q) {
   return running;
 }
 
+namespace {
+
+// The WWN that a switch shows in a VSAN, by its domain, from the domain manager.
+std::optional<wwn_> switch_of_domain(int32_t q, uint32_t vsan, uint32_t domain) {
+  wwn_ wwn;
+  if (domain > 0xFF ||
+      dm_cim_get_switch_wwn_by_domain_id(q, vsan, static_cast<uint8_t>(domain), &wwn) != 0)
+    return std::nullopt;
+  return wwn;
+}
+
+}  // namespace
+
 std::vector<LinkEnd> link_ends_of_vsan(int32_t q, uint32_t vsan) {
   const std::vector<fcs_cim_ie_> elements = elements_of(q, vsan);
-  std::unordered_map<uint32_t, wwn_> switches;
+  std::unordered_map<uint32_t, std::optional<wwn_>> switches;
   for (const fcs_cim_ie_& element : elements)
     switches[element.domain & 0xFF] = element.wwn;
   std::vector<LinkEnd> ends;
@@ -192,9 +206,10 @@ std::vector<LinkEnd> link_ends_of_vsan(int32_t q, uint32_t vsan) {
     for (const fspfLinkEntry& link : links_of_switch(q, vsan, element.domain & 0xFF)) {
       for (const bool local : {true, false}) {
         LinkEnd end{link, {}, local, false};
-        const auto owner = switches.find(domain_of(end));
-        if (owner == switches.end()) continue;
-        end.switch_wwn = owner->second;
+        const auto [owner, is_new] = switches.try_emplace(domain_of(end));
+        if (is_new) owner->second = switch_of_domain(q, vsan, domain_of(end));
+        if (!owner->second) continue;
+        end.switch_wwn = *owner->second;
         if (listed.insert(identity(end)).second) ends.push_back(end);
       }
     }

@@ -26,7 +26,8 @@ std::vector<uint32_t> running_vsans(int32_t q);
 
 // Both ends of every link of a VSAN in which the switch at that end is known, each end once, not as
 // physical ones. Asks the configuration server once and once more for each switch, and FSPF once
-// for each switch. A switch whose links FSPF does not tell is known by the far ends of the others'.
+// for each switch. A switch whose links FSPF does not tell is known by the far ends of the others',
+// and one that the configuration server does not tell of by the domain manager.
 std::vector<LinkEnd> link_ends_of_vsan(int32_t q, uint32_t vsan);
 
 // All ends, each as a port in its VSAN and as a port of its device, which a link in several VSANs

@@ -1,7 +1,5 @@
 #include "providers/class_table.h"
 
-#include <cim_utils/cmpi_switch.h>
-
 #include "providers/computer_system.h"
 #include "providers/fabric.h"
 #include "providers/switch_settings.h"
@@ -35,20 +33,13 @@ constexpr RecordClass<VsanRecord> kVsan{{
     .methods = kVsanMethods,
 }};
 
-constexpr RecordClass<VsanRecord> kConnectivityCollection{{
+constexpr RecordClass<ConnectivityCollection> kConnectivityCollection{{
     .name = "VEXOR_ConnectivityCollection",
     .keys = {"InstanceID"},
-    .list = all_vsans,
-    .reference =
-        [](const Target& to, const VsanRecord& vsan) {
-          return connectivity_collection_fill_reference(
-              to.class_name, to.name_space, static_cast<int>(vsan.entry.vsan_index), to.broker);
-        },
-    .instance =
-        [](const Target& to, const VsanRecord& vsan) {
-          return connectivity_collection_build_instance(
-              to.class_name, to.name_space, static_cast<int>(vsan.entry.vsan_index), to.broker);
-        },
+    .list = connectivity_collections,
+    .reference = connectivity_collection_reference,
+    .instance = connectivity_collection_instance,
+    .find = connectivity_collections_named,
 }};
 
 constexpr RecordClass<VsanRecord> kContainedDomain{{

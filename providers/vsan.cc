@@ -4,9 +4,11 @@
 #include <cim_utils/domain_manager.h>
 #include <cim_utils/vsan.h>
 
+#include <charconv>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
+#include <span>
 
 namespace vexor::providers {
 namespace {
@@ -16,6 +18,24 @@ constexpr size_t kWwnDigits = 16;
 
 struct FreeBlock {
   void operator()(void* block) const { std::free(block); }
+};
+
+// Those of all VSANs. Throws Failure when the VSAN manager does not give them.
+class Entries {
+ public:
+  explicit Entries(int32_t q) {
+    vsanNewEntry_t* entries = nullptr;
+    if (vsan_cim_get_all_vsanEntry(q, &count_, &entries) != 0)
+      throw Failure(CMPI_RC_ERR_FAILED, "the VSAN manager does not give its VSANs");
+    owner_.reset(entries);
+  }
+  std::span<const vsanNewEntry_t> all() const {
+    return {owner_.get(), count_ > 0 ? static_cast<size_t>(count_) : 0};
+  }
+
+ private:
+  int32_t count_ = 0;
+  std::unique_ptr<vsanNewEntry_t, FreeBlock> owner_;
 };
 
 // The domain manager's part; the entry is there already.
@@ -51,17 +71,21 @@ bool read_vsan(int32_t q, uint32_t number, VsanRecord& vsan) {
 }
 
 std::vector<VsanRecord> all_vsans(int32_t q) {
-  int32_t count = 0;
-  vsanNewEntry_t* entries = nullptr;
-  if (vsan_cim_get_all_vsanEntry(q, &count, &entries) != 0)
-    throw Failure(CMPI_RC_ERR_FAILED, "the VSAN manager does not give its VSANs");
-  const std::unique_ptr<vsanNewEntry_t, FreeBlock> owner(entries);
-  std::vector<VsanRecord> vsans(count > 0 ? static_cast<size_t>(count) : 0);
+  const Entries entries(q);
+  std::vector<VsanRecord> vsans(entries.all().size());
   for (size_t index = 0; index < vsans.size(); ++index) {
-    vsans[index].entry = entries[index];
+    vsans[index].entry = entries.all()[index];
     complete(q, vsans[index]);
   }
   return vsans;
+}
+
+std::vector<uint32_t> vsan_numbers(int32_t q) {
+  const Entries entries(q);
+  std::vector<uint32_t> numbers;
+  for (const vsanNewEntry_t& entry : entries.all())
+    numbers.push_back(entry.vsan_index);
+  return numbers;
 }
 
 std::vector<VsanRecord> vsans_named(int32_t q, const ObjectName& name) {
@@ -84,6 +108,15 @@ std::vector<VsanRecord> vsans_named(int32_t q, const ObjectName& name) {
   return all_vsans(q);
 }
 
+uint32_t read_vsan_number(const char* text) {
+  if (text == nullptr || *text == '0') return 0;
+  uint32_t number = 0;
+  const char* end = text + std::strlen(text);
+  const auto [stopped, error] = std::from_chars(text, end, number);
+  if (error != std::errc{} || stopped != end || vsan_cim_check_vsan_index(number) != 0) return 0;
+  return number;
+}
+
 CMPIObjectPath* vsan_reference(const Target& target, const VsanRecord& vsan) {
   return vsan_fill_reference(target.class_name, target.name_space, &vsan.entry, configuration(vsan),
                              target.broker);
@@ -103,6 +136,33 @@ uint32_t request_vsan_state(int32_t q, const VsanRecord& vsan, const Arguments& 
     return kInvalidParameter;
   const int32_t status = vsan_cim_set_VsanEntry(q, vsan.entry.vsan_index, state == "2" ? 2 : 3);
   return status == 0 ? kCompleted : kUnspecifiedError;
+}
+
+std::vector<ConnectivityCollection> connectivity_collections(int32_t q) {
+  std::vector<ConnectivityCollection> found;
+  for (const uint32_t vsan : vsan_numbers(q))
+    found.push_back({vsan});
+  return found;
+}
+
+std::vector<ConnectivityCollection> connectivity_collections_named(int32_t q,
+                                                                   const ObjectName& name) {
+  const uint32_t number = read_vsan_number(name.text("InstanceID"));
+  vsanNewEntry_t entry;
+  if (number == 0 || !read_vsan_entry(q, number, entry)) return {};
+  return {ConnectivityCollection{number}};
+}
+
+CMPIObjectPath* connectivity_collection_reference(const Target& target,
+                                                  const ConnectivityCollection& collection) {
+  return connectivity_collection_fill_reference(target.class_name, target.name_space,
+                                                static_cast<int>(collection.vsan), target.broker);
+}
+
+CMPIInstance* connectivity_collection_instance(const Target& target,
+                                               const ConnectivityCollection& collection) {
+  return connectivity_collection_build_instance(target.class_name, target.name_space,
+                                                static_cast<int>(collection.vsan), target.broker);
 }
 
 CMPIObjectPath* contained_domain_reference(const Target& target, const VsanRecord& vsan) {

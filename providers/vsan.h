@@ -38,6 +38,13 @@ std::vector<VsanRecord> all_vsans(int32_t q);
 // The VSAN that the key "Name" may name; none when there is none.
 std::vector<VsanRecord> vsans_named(int32_t q, const ObjectName& name);
 
+// The numbers of all VSANs: their count, then one exchange each.
+std::vector<uint32_t> vsan_numbers(int32_t q);
+
+// The number that names a VSAN's connectivity collection, its zone service and the capabilities of
+// that. Result: 0 for a text that is no VSAN's number. Asks nobody.
+uint32_t read_vsan_number(const char* text);
+
 CMPIObjectPath* vsan_reference(const Target& target, const VsanRecord& vsan);
 CMPIInstance* vsan_instance(const Target& target, const VsanRecord& vsan);
 
@@ -46,7 +53,25 @@ CMPIInstance* vsan_instance(const Target& target, const VsanRecord& vsan);
 // refuses or does not answer; 5 for another state or none.
 uint32_t request_vsan_state(int32_t q, const VsanRecord& vsan, const Arguments& arguments);
 
-// VEXOR_ContainedDomain.
+// ---- VEXOR_ConnectivityCollection ----
+
+// What a VSAN connects, known by the VSAN's number.
+struct ConnectivityCollection {
+  uint32_t vsan;
+};
+
+// One for each VSAN.
+std::vector<ConnectivityCollection> connectivity_collections(int32_t q);
+// By "InstanceID", with one exchange.
+std::vector<ConnectivityCollection> connectivity_collections_named(int32_t q,
+                                                                   const ObjectName& name);
+CMPIObjectPath* connectivity_collection_reference(const Target& target,
+                                                  const ConnectivityCollection& collection);
+CMPIInstance* connectivity_collection_instance(const Target& target,
+                                               const ConnectivityCollection& collection);
+
+// ---- VEXOR_ContainedDomain ----
+
 CMPIObjectPath* contained_domain_reference(const Target& target, const VsanRecord& vsan);
 CMPIInstance* contained_domain_instance(const Target& target, const VsanRecord& vsan);
 // By the VSAN in "PartComponent".

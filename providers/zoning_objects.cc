@@ -58,18 +58,6 @@ bool check_read(int32_t result, const char* what, uint32_t vsan) {
                 vsan, result);
 }
 
-std::vector<uint32_t> vsan_numbers(int32_t q) {
-  int32_t count = 0;
-  vsanNewEntry_t* entries = nullptr;
-  if (vsan_cim_get_all_vsanEntry(q, &count, &entries) != 0)
-    throw Failure(CMPI_RC_ERR_FAILED, "the VSAN manager does not give its VSANs");
-  const std::unique_ptr<vsanNewEntry_t, FreeBlock> owner(entries);
-  std::vector<uint32_t> numbers;
-  for (int32_t index = 0; index < count; ++index)
-    numbers.push_back(entries[index].vsan_index);
-  return numbers;
-}
-
 // ---- objects of one kind ----
 
 namespace {

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "providers/class.h"
+#include "providers/vsan.h"
 
 namespace vexor::providers {
 
@@ -78,9 +79,6 @@ std::vector<Record> take_chain(Record* head) {
 // Throws Failure unless the result is 0 or says that there is nothing.
 // Result: whether it is 0.
 bool check_read(int32_t result, const char* what, uint32_t vsan);
-
-// The numbers of all VSANs: their count, then one exchange each.
-std::vector<uint32_t> vsan_numbers(int32_t q);
 
 // ---- objects of one kind ----
 

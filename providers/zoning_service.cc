@@ -4,8 +4,6 @@
 #include <cim_utils/vsan.h>
 #include <cim_utils/zoning_changes.h>
 
-#include <charconv>
-#include <cstring>
 #include <string>
 
 #include "providers/zoning_changes.h"
@@ -120,15 +118,6 @@ uint32_t distribute(int32_t q, const ZoneService& service, const Arguments&) {
 }
 
 }  // namespace
-
-uint32_t read_vsan_number(const char* text) {
-  if (text == nullptr || *text == '0') return 0;
-  uint32_t number = 0;
-  const char* end = text + std::strlen(text);
-  const auto [stopped, error] = std::from_chars(text, end, number);
-  if (error != std::errc{} || stopped != end || vsan_cim_check_vsan_index(number) != 0) return 0;
-  return number;
-}
 
 std::vector<ZoneService> zone_services(int32_t q) {
   std::vector<ZoneService> services;

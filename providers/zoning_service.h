@@ -10,10 +10,6 @@
 
 namespace vexor::providers {
 
-// The number that names a VSAN's zone service, its capabilities and its connectivity collection.
-// Result: 0 for a text that is no VSAN's number. Asks nobody.
-uint32_t read_vsan_number(const char* text);
-
 // The zone service of a VSAN, and its capabilities, whose "InstanceID" is the VSAN's number.
 struct ZoneService {
   uint32_t vsan;

@@ -1,7 +1,8 @@
 /* The CMPI face of what ties switches, ports, endpoints and collections together.
  *
  * The conventions of cmpi_builders.h apply. Most of these are associations of two given references;
- * those made from records build both references first.
+ * those made from records build both references first. Null where the broker gives no path or no
+ * instance that can be used.
  */
 #ifndef CIM_UTILS_CMPI_CONNECTIVITY_H
 #define CIM_UTILS_CMPI_CONNECTIVITY_H

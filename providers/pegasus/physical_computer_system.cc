@@ -3,15 +3,15 @@
 #include <Pegasus/Common/Exception.h>
 #include <cim_utils/collections.h>
 #include <cim_utils/fabric_configuration.h>
-#include <cim_utils/formats.h>
 #include <cim_utils/provider_util.h>
-#include <cim_utils/session.h>
 #include <cim_utils/system.h>
 
 #include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
+
+#include "providers/pegasus/provider_support.h"
 
 namespace vexor::providers::pegasus {
 namespace {
@@ -33,50 +33,6 @@ constexpr char kNameProperty[] = "ElementName";
 // As many characters as the switch's capabilities tell ("MaxElementNameLen").
 constexpr size_t kLongestSwitchName = 32;
 
-[[noreturn]] void fail(Pegasus::CIMStatusCode code, const std::string& text) {
-  throw Pegasus::CIMException(code, String(text.c_str()));
-}
-
-// The library's process-wide lock: its texts lie in buffers that all threads share. It is held
-// while records are read, and again for each object that is built of them, but not while one is
-// delivered.
-class Lock {
- public:
-  Lock() {
-    if (mutex_lock() != 0) fail(Pegasus::CIM_ERR_FAILED, "the lock cannot be taken");
-  }
-  ~Lock() { mutex_unlock(); }
-  Lock(const Lock&) = delete;
-  Lock& operator=(const Lock&) = delete;
-};
-
-// The library asks on two queues: what this face builds on ProviderUtil's, the names of other
-// switches on the session's. The caller holds the lock.
-bool session_is_ours = false;  // bound by this provider. Guarded by Lock.
-
-int32_t bound_queue() {
-  int32_t of_session = -1;
-  int of_face = -1;
-  if (mts_q < 0) session_is_ours = true;
-  if (::init_mts(&of_session) != 0 || ProviderUtil::init_mts(&of_face) != 0)
-    fail(Pegasus::CIM_ERR_FAILED, "the switch's response queue cannot be bound");
-  return of_session;
-}
-
-// The library gives a handle that was released out again, as long as it stays loaded, and others in
-// the process may ask on the session's queue: without the handle they bind it anew.
-void release_queues() {
-  ProviderUtil::deinit_mts(&ProviderUtil::mts_q);
-  ProviderUtil::mts_q = -1;
-  if (!session_is_ours) return;
-  ::deinit_mts(&mts_q);
-  mts_q = -1;
-  session_is_ours = false;
-}
-
-// Providers of this library that are in use. Guarded by Lock.
-int providers = 0;
-
 struct FreeList {
   void operator()(GSList* list) const { cim_g_slist_destroy(list, nullptr); }
 };
@@ -85,15 +41,6 @@ struct Switch {
   std::string wwn;  // as text
   bool remote;      // not the one that runs this agent
 };
-
-std::string own_wwn(int32_t q) {
-  wwn_ wwn{};
-  if (system_cim_get_switch_wwn(q, &wwn) != 0)
-    fail(Pegasus::CIM_ERR_FAILED, "the switch identity service does not tell the switch's WWN");
-  char text[17];
-  cim_sprintf_wwn(text, &wwn);
-  return text;
-}
 
 // The own switch, and every other one that is in a VSAN that is up, each once.
 std::vector<Switch> read_switches() {
@@ -132,48 +79,15 @@ CIMObjectPath reference(const CIMObjectPath& path, const Switch& device) {
                                              device.wwn.c_str());
 }
 
-void check_class(const CIMObjectPath& path) {
-  if (path.getClassName().equal(CIMName(kClass))) return;
-  fail(Pegasus::CIM_ERR_INVALID_CLASS, std::string("this provider serves ") + kClass + " only");
-}
-
 // The switch that a path names.
 Switch find(const CIMObjectPath& path) {
-  check_class(path);
-  String name;
-  bool has_name = false;
-  bool fits = true;
-  const Array<Pegasus::CIMKeyBinding>& keys = path.getKeyBindings();
-  for (Uint32 i = 0; i < keys.size(); ++i) {
-    if (keys[i].getName().equal(CIMName("Name"))) {
-      name = keys[i].getValue();
-      has_name = true;
-    } else if (keys[i].getName().equal(CIMName("CreationClassName"))) {
-      fits = fits && String::equalNoCase(keys[i].getValue(), String(kClass));
-    } else {
-      fail(Pegasus::CIM_ERR_INVALID_PARAMETER, std::string(kClass) + " has other keys");
-    }
-  }
-  if (!has_name) fail(Pegasus::CIM_ERR_INVALID_PARAMETER, "the key Name is missing");
-  const std::string wanted = std::string(name.getCString());
+  const auto name = name_of(path, kClass);
   const std::vector<Switch> switches = read_switches();
   const auto found = std::find_if(switches.begin(), switches.end(),
-                                  [&](const Switch& each) { return fits && each.wwn == wanted; });
+                                  [&](const Switch& each) { return each.wwn == name; });
   if (found == switches.end()) throw Pegasus::CIMObjectNotFoundException(path.toString());
   return *found;
 }
-
-// What the client wants to see of an instance.
-struct Selection {
-  Boolean qualifiers;
-  Boolean class_origin;
-  const CIMPropertyList& properties;
-
-  CIMInstance of(CIMInstance instance) const {
-    instance.instanceFilter(qualifiers, class_origin, properties);
-    return instance;
-  }
-};
 
 bool is_listed(const CIMName& name, const CIMPropertyList& list) {
   if (list.isNull()) return true;
@@ -225,19 +139,11 @@ void set_name(const Switch& device, const CIMValue& value) {
 
 void PhysicalComputerSystemProvider::initialize(Pegasus::CIMOMHandle& cimom) {
   cimom.disallowProviderUnload();
-  const Lock lock;
-  ++providers;
-  ProviderUtil::_cimom = cimom;
+  join(cimom);
 }
 
 void PhysicalComputerSystemProvider::terminate() {
-  {
-    const Lock lock;
-    if (--providers == 0) {
-      ProviderUtil::_cimom = Pegasus::CIMOMHandle();
-      release_queues();
-    }
-  }
+  leave();
   delete this;
 }
 
@@ -260,7 +166,7 @@ void PhysicalComputerSystemProvider::enumerateInstances(const OperationContext& 
                                                         const CIMPropertyList& propertyList,
                                                         Pegasus::InstanceResponseHandler& handler) {
   const Selection selection{includeQualifiers, includeClassOrigin, propertyList};
-  check_class(path);
+  check_class(path, kClass);
   handler.processing();
   for (const Switch& device : read_switches())
     handler.deliver(selection.of(build(path, device)));
@@ -270,7 +176,7 @@ void PhysicalComputerSystemProvider::enumerateInstances(const OperationContext& 
 void PhysicalComputerSystemProvider::enumerateInstanceNames(
     const OperationContext& /*context*/, const CIMObjectPath& path,
     Pegasus::ObjectPathResponseHandler& handler) {
-  check_class(path);
+  check_class(path, kClass);
   handler.processing();
   for (const Switch& device : read_switches())
     handler.deliver(reference(path, device));

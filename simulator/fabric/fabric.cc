@@ -33,8 +33,8 @@ bool has_control_character(std::string_view text) {
 // The problems of one element come without its name, which costs more than the tests themselves.
 const char* problem_of(const Switch& element) {
   // The first two bytes are where a VSAN, a slot and a port are written in derived WWNs.
-  if (element.wwn.bytes[0] != 0x20 || element.wwn.bytes[1] != 0) {
-    return "a switch WWN starts with 20:00";
+  if ((element.wwn.bytes[0] != 0x20 && element.wwn.bytes[0] != 0x10) || element.wwn.bytes[1] != 0) {
+    return "a switch WWN starts with 20:00, another maker's with 10:00";
   }
   if (element.name.empty()) return "the name is empty";
   if (element.name.size() > kLongestSystemName) return "the name is too long";
@@ -148,6 +148,7 @@ void sort(Fabric& fabric) {
 
 std::optional<std::string> problem_of(const Fabric& fabric) {
   if (find_switch(fabric, fabric.local_switch) == nullptr) return "the local switch is missing";
+  if (is_of_another_maker(fabric.local_switch)) return "the local switch is another maker's";
   for (size_t i = 0; i < fabric.switches.size(); ++i) {
     if (const char* problem = problem_of(fabric.switches[i])) {
       return "switch " + to_text(fabric.switches[i].wwn) + ": " + problem;
@@ -196,7 +197,12 @@ bool is_running(const Vsan& vsan, const DomainManager& domain) {
   return vsan.state == VsanState::up && domain.enabled;
 }
 
+bool is_of_another_maker(const Wwn& switch_wwn) {
+  return switch_wwn.bytes[0] == 0x10;
+}
+
 Wwn vsan_wwn(const Wwn& switch_wwn, uint32_t vsan) {
+  if (is_of_another_maker(switch_wwn)) return switch_wwn;
   Wwn wwn = switch_wwn;
   wwn.bytes[0] = static_cast<uint8_t>(0x20 | (vsan >> 8 & 0x0F));
   wwn.bytes[1] = static_cast<uint8_t>(vsan);

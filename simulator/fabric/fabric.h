@@ -47,7 +47,7 @@ struct SystemInformation {
 
 struct Switch {
   std::string name;  // the system name
-  Wwn wwn;           // switch-wide: no VSAN number in its first bytes
+  Wwn wwn;           // switch-wide: no VSAN number in its first bytes; tells the maker
   IpAddress address;
   SystemInformation system;
   std::vector<Module> modules;        // by slot, rising
@@ -120,8 +120,13 @@ const Switch& local_switch(const Fabric& fabric);
 // True when the switch takes part in the VSAN with a domain ID.
 bool is_running(const Vsan& vsan, const DomainManager& domain);
 
+// True for a switch that does not run this platform: its WWN begins with 10:00. It takes part in
+// VSANs without knowing of them, numbers its ports through, and is no peer of this platform's
+// switches.
+bool is_of_another_maker(const Wwn& switch_wwn);
+
 // The WWN that a switch shows in a VSAN: the VSAN number in the 12 bits behind the NAA nibble, and
-// the last byte plus one.
+// the last byte plus one. Another maker's switch shows its own everywhere.
 Wwn vsan_wwn(const Wwn& switch_wwn, uint32_t vsan);
 
 // 16 hexadecimal digits in pairs, "20:00:00:0d:ec:0a:1b:2c".

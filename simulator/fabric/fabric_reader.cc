@@ -57,8 +57,8 @@ std::string read_text(const ObjectReader& object, const char* key, const char* o
 Wwn read_switch_wwn(const Value& value) {
   const auto wwn = parse_wwn(expect<std::string>(value, "a WWN"));
   if (!wwn) throw Problem{value.position, "expected a WWN such as \"20:00:00:0d:ec:0a:1b:2c\""};
-  if (wwn->bytes[0] != 0x20 || wwn->bytes[1] != 0) {
-    throw Problem{value.position, "a switch WWN starts with 20:00"};
+  if ((wwn->bytes[0] != 0x20 && wwn->bytes[0] != 0x10) || wwn->bytes[1] != 0) {
+    throw Problem{value.position, "a switch WWN starts with 20:00, another maker's with 10:00"};
   }
   return *wwn;
 }

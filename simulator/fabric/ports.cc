@@ -117,6 +117,9 @@ std::pair<const char*, const char*> problem_of_places(const Switch& element,
                                                       const Interface& interface) {
   const uint32_t if_index = interface.if_index;
   const InterfaceType type = type_of(if_index);
+  if (is_of_another_maker(element.wwn) && type != InterfaceType::fibre_channel) {
+    return {"name", "another maker's switch has FC ports only"};
+  }
   if ((is_port_of_module(type) || type == InterfaceType::management) &&
       module_of(element, if_index) == nullptr) {
     return {"name", "no module has this port"};
@@ -218,6 +221,10 @@ std::pair<const char*, const char*> problem_of_link(const Fabric& fabric, const 
       find_end(fabric, link.ends[1])->members.size()) {
     return {"ends", "linked port channels have the same number of members"};
   }
+  const bool is_mixed = std::any_of(link.ends.begin(), link.ends.end(), [](const LinkEnd& end) {
+    return is_of_another_maker(end.switch_wwn);
+  });
+  if (link.trunking && is_mixed) return {"trunk", "another maker's switch does not trunk"};
   if (!link.trunking && !link.vsans.empty()) return {"trunk", "only a trunking link has VSANs"};
   for (const uint32_t vsan : link.vsans) {
     if (vsan < 1 || vsan > kLargestVsan) return {"trunk", "a VSAN number lies between 1 and 4094"};
@@ -406,8 +413,17 @@ std::optional<uint32_t> parse_interface_name(const std::string& name) {
   return if_index;
 }
 
+uint32_t port_number(uint32_t if_index) {
+  return (slot_bits(if_index) - 1U) * (kMostFcPorts + 1) + unit_bits(if_index);
+}
+
 Wwn port_wwn(const Wwn& switch_wwn, uint32_t if_index) {
   Wwn wwn = switch_wwn;
+  if (is_of_another_maker(switch_wwn)) {
+    wwn.bytes[0] = 0x20;
+    wwn.bytes[1] = static_cast<uint8_t>(port_number(if_index));
+    return wwn;
+  }
   const uint32_t slot = slot_bits(if_index);
   const uint32_t unit = unit_bits(if_index);
   switch (type_of(if_index)) {
@@ -448,6 +464,11 @@ std::optional<ElementProblem> problem_of_modules(const Switch& element) {
   for (size_t i = 0; i < element.modules.size(); ++i) {
     const Module& module = element.modules[i];
     if (const char* problem = problem_of(module)) return ElementProblem{i, "ports", problem};
+    if (is_of_another_maker(element.wwn) &&
+        (module.kind != ModuleKind::fibre_channel || module.slot > kMostSlotsOfOtherMakers)) {
+      return ElementProblem{i, "slot",
+                            "another maker's switch has Fibre Channel modules in slots 1 to 4"};
+    }
     if (!slots.insert(module.slot).second) {
       return ElementProblem{i, "slot", "another module is in this slot"};
     }

@@ -20,6 +20,7 @@ struct Switch;
 // A port WWN has five bits for the slot and six for the port; an iSCSI port has four of them.
 inline constexpr uint32_t kLargestModuleSlot = 31;
 inline constexpr uint32_t kMostFcPorts = 63;
+inline constexpr uint32_t kMostSlotsOfOtherMakers = 4;
 inline constexpr uint32_t kMostEthernetPorts = 16;
 inline constexpr uint32_t kLargestChannelNumber = 254;
 inline constexpr size_t kMostChannelMembers = 16;
@@ -144,8 +145,11 @@ bool is_ethernet_like(uint32_t if_index);  // has a MAC and an IPv4 address
 std::string interface_name(uint32_t if_index);
 std::optional<uint32_t> parse_interface_name(const std::string& name);
 
+// The number of a port of another maker's switch, which has no slots: 1 to 255.
+uint32_t port_number(uint32_t if_index);
+
 // The WWN of an FC-like interface: the switch WWN with slot and port, or the number of the channel
-// or FCIP interface, in its first bytes.
+// or FCIP interface, in its first bytes. A port of another maker's switch has its number there.
 Wwn port_wwn(const Wwn& switch_wwn, uint32_t if_index);
 
 // The MAC address of an Ethernet-like interface, followed by two zeros.

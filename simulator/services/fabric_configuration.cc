@@ -7,7 +7,7 @@
 // WWN at 8 of the request; the reply has 32 bytes, VSAN at 0, WWN at 4, type (1: switch) at 12,
 // domain ID at 16, management FC ID at 20.
 //
-// A switch shows its VSAN WWN in each VSAN.
+// A switch shows its VSAN WWN in each VSAN. Another maker's switch registers no address.
 #include <algorithm>
 
 #include "simulator/fabric/topology.h"
@@ -118,7 +118,8 @@ Outcome switch_addresses(const Request& request, Fabric& fabric, VirtualTime /*n
   if (vsan == nullptr) return refuse(status::kNotFound);
   if (!serves(fabric, *vsan)) return refuse(status::kNotRunning);
 
-  const auto& elements = topology_of(fabric).elements_of(*vsan);
+  auto elements = topology_of(fabric).elements_of(*vsan);
+  std::erase_if(elements, [](const Element& element) { return is_of_another_maker(element.wwn); });
   ReplyWriter writer(8 + elements.size() * kAddressSize);
   writer.be32(0, 1).be32(4, static_cast<uint32_t>(elements.size()));
   for (size_t i = 0; i < elements.size(); ++i) {

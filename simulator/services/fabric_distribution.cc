@@ -20,8 +20,10 @@ Bytes write_failure(int32_t code) {
   return std::move(reply).take();
 }
 
-// A peer is reached through a VSAN in which both switches take part.
+// A peer is reached through a VSAN in which both switches take part. Another maker's switch does
+// not know the service.
 bool is_reachable(const Fabric& fabric, const Switch& peer) {
+  if (is_of_another_maker(peer.wwn)) return false;
   return std::any_of(fabric.vsans.begin(), fabric.vsans.end(), [&](const Vsan& vsan) {
     const DomainManager* local = find_domain(vsan, fabric.local_switch);
     const DomainManager* remote = find_domain(vsan, peer.wwn);

@@ -3,7 +3,7 @@
 // The request is nine words: VSAN, domain ID, 1, zeros. The reply has a header of nine words, VSAN,
 // domain ID, 1 (a switch link record), and the number of links at 28; then nine words per link:
 // VSAN, domain ID, 1 (point to point), 0, the far end's domain ID, the interface indexes of both
-// ends as FSPF writes them, cost, 0.
+// ends as FSPF writes them (port numbers on another maker's switch), cost, 0.
 #include "simulator/fabric/topology.h"
 #include "simulator/local/fspf_if_index.h"
 #include "simulator/local/platform_status.h"
@@ -22,6 +22,11 @@ const DomainManager* find_running(const Vsan& vsan, uint32_t domain_id) {
     if (is_running(vsan, domain) && domain.domain_id == domain_id) return &domain;
   }
   return nullptr;
+}
+
+uint32_t index_of(const LinkEnd& end) {
+  if (is_of_another_maker(end.switch_wwn)) return port_number(end.if_index);
+  return to_fspf_if_index(end.if_index).value_or(0);
 }
 
 // 1000 for a link of 1 Gb/s, the faster the less.
@@ -64,8 +69,8 @@ Outcome link_state_record(const Request& request, Fabric& fabric, VirtualTime /*
         .be32(entry + 4, domain_id)
         .be32(entry + 8, kPointToPoint)
         .be32(entry + 16, find_domain(*vsan, link.there.switch_wwn)->domain_id)
-        .be32(entry + 20, to_fspf_if_index(link.here.if_index).value_or(0))
-        .be32(entry + 24, to_fspf_if_index(link.there.if_index).value_or(0))
+        .be32(entry + 20, index_of(link.here))
+        .be32(entry + 24, index_of(link.there))
         .be32(entry + 28, cost_of(link));
   }
   return reply(std::move(writer).take());

@@ -7,10 +7,19 @@
 namespace switch_sim {
 namespace {
 
+bool holds(const Fault::Word& word, const Bytes& body) {
+  if (body.size() < word.offset + sizeof word.value) return false;
+  uint32_t value = 0;
+  for (size_t i = 0; i < sizeof word.value; ++i)
+    value = value << 8 | std::to_integer<uint32_t>(body[word.offset + i]);
+  return value == word.value;
+}
+
 bool fits(const Fault& fault, const Request& request) {
   return (!fault.service || *fault.service == request.service) &&
          (!fault.opcode || *fault.opcode == request.opcode) &&
-         (!fault.operation || *fault.operation == request.operation);
+         (!fault.operation || *fault.operation == request.operation) &&
+         (!fault.word || holds(*fault.word, request.body));
 }
 
 bool reaches_the_service(Fault::Kind kind) {

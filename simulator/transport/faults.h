@@ -19,10 +19,17 @@ struct Fault {
     error,          // the transport fails with errno `value`; the service never sees the request
   };
 
+  // A number in a request, most significant byte first.
+  struct Word {
+    size_t offset = 0;
+    uint32_t value = 0;
+  };
+
   // Which requests: those that fit every field that is set.
   std::optional<Service> service = std::nullopt;
   std::optional<uint32_t> opcode = std::nullopt;
   std::optional<uint32_t> operation = std::nullopt;
+  std::optional<Word> word = std::nullopt;
   uint32_t nth = 0;  // counted from 1 among the requests that fit; 0: each of them
 
   Kind kind = Kind::status;

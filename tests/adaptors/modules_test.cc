@@ -222,6 +222,35 @@ TEST_F(ModuleAdaptor, SuccessWithoutAReplyIsSuccessAndLeavesTheRow) {
   EXPECT_EQ(module_.num_ports, 48u);
 }
 
+TEST_F(ModuleAdaptor, AnEntitysRowMayNotComeOrComeLateOrRefused) {
+  Script script;
+  script.expect(get(1026).sap(39).any_request().length(2780)).ok_without_reply();
+  script.expect(get(1026).sap(39).any_request().length(2780)).times_out();
+  script.expect(get_next(1026).sap(39).any_request().length(2780))
+      .status_with_reply(kNoSuchRow, entity_row(99));
+  entity_.word_2428 = 0x01020304;
+  EXPECT_EQ(pfm_cim_get_entPhysicalTable(kQueue, 0x0102, 1, &entity_), 0);
+  EXPECT_EQ(pfm_cim_get_entPhysicalTable(kQueue, 0x0102, 1, &entity_), -1);
+  EXPECT_EQ(pfm_cim_get_entPhysicalTable(kQueue, 0x0102, 0, &entity_), kNoSuchRow);
+  EXPECT_EQ(entity_.entity_index, 0x0102u);
+  EXPECT_EQ(entity_.word_2428, 0x01020304u);
+  EXPECT_NE(out_.out().find("get_entPhysicalTable(): ret_code is  1077346309 \n"),
+            std::string::npos);
+}
+
+TEST_F(ModuleAdaptor, OfAnEntitysReplyWithoutItsLastByteTheRestIsTaken) {
+  Script script;
+  script.expect(get(1026).sap(39).any_request().length(2780)).replies(entity_row(1)).cut_to(2779);
+  script.expect(get(1029).sap(39).any_request().length(316)).replies(module_row(25)).cut_to(315);
+  entity_.raw_2432[347] = 0x11;
+  module_.raw_312[3] = 0x22;
+  EXPECT_EQ(pfm_cim_get_entPhysicalTable(kQueue, 1, 1, &entity_), 0);
+  EXPECT_EQ(entity_.word_2428, 0x191a1b1cu);
+  EXPECT_EQ(entity_.raw_2432[347], 0x11);
+  EXPECT_EQ(pfm_cim_get_vefcModuleTable(kQueue, 1, 1, &module_), 0);
+  EXPECT_EQ(bytes_of(module_.raw_312), hex("e1 e2 e3 22"));
+}
+
 TEST_F(ModuleAdaptor, OfAReplyThatIsShortOrLongAsMuchIsTakenAsTheRowHolds) {
   Script script;
   script.expect(get(1029).sap(39).any_request().length(316)).replies(module_row(25)).cut_to(11);
@@ -249,6 +278,22 @@ TEST_F(ModuleAdaptor, ANullRowIsRefusedWithoutAnExchange) {
 
 TEST_F(ModuleAdaptor, AnyReplyOfAnyLengthIsTaken) {
   sweep_replies(316, [&] { pfm_cim_get_vefcModuleTable(kQueue, 1, 1, &module_); });
+}
+
+// Of every content, ending where fields begin and within them.
+TEST_F(ModuleAdaptor, AnEntitysReplyThatEndsAnywhereInAFieldIsTaken) {
+  const size_t ends[] = {0, 1, 3, 4, 259, 260, 262, 771, 772, 788, 1552, 1807, 2095, 2427, 2430};
+  size_t length = 0;
+  unsigned number = 0;
+  Responder responder([&](const Request&) { return Response::with(pattern(number, length)); });
+  for (const size_t end : ends) {
+    for (number = 0; number < kPatterns; ++number) {
+      length = end;
+      pfm_cim_get_entPhysicalTable(kQueue, 1, 1, &entity_);
+      print_entity_info(&entity_);
+    }
+  }
+  EXPECT_EQ(responder.calls(), std::size(ends) * kPatterns);
 }
 
 TEST_F(ModuleAdaptor, AModuleIsPrinted) {

@@ -45,7 +45,8 @@ ObjectManager& manager() {
 std::vector<const cim::schema::Class*> classes() {
   std::vector<const cim::schema::Class*> found;
   for (const cim::schema::Class* cls : repository().all())
-    if (cls->name.starts_with("VEXOR_") && !cls->is_abstract) found.push_back(cls);
+    if (cls->name.starts_with("VEXOR_") && cls->name != "VEXOR_Switch" && !cls->is_abstract)
+      found.push_back(cls);
   return found;
 }
 
@@ -80,21 +81,21 @@ std::string problem_with_get(const ObjectPath& path) {
   }
 }
 
-Quiet::Quiet() : saved_(dup(STDOUT_FILENO)) {
-  fflush(stdout);
+Quiet::Stream::Stream(FILE* of) : stream(of), saved(dup(fileno(of))) {
+  fflush(stream);
   const int sink = open("/dev/null", O_WRONLY);
-  dup2(sink, STDOUT_FILENO);
+  dup2(sink, fileno(stream));
   close(sink);
 }
 
-Quiet::~Quiet() {
-  fflush(stdout);
-  dup2(saved_, STDOUT_FILENO);
-  close(saved_);
+Quiet::Stream::~Stream() {
+  fflush(stream);
+  dup2(saved, fileno(stream));
+  close(saved);
 }
 
 bool OnFabrics::is_medium() {
-  return std::string_view(GetParam()).starts_with("switches=8,");
+  return std::string_view(GetParam().name) == "Medium";
 }
 
 std::size_t OnFabrics::most_gets_per_class() {
@@ -104,9 +105,13 @@ std::size_t OnFabrics::most_gets_per_class() {
 void OnFabrics::SetUp() {
   namespace control = switch_sim::control;
   control::reset();
-  if (*GetParam() != '\0') {
-    ASSERT_EQ(std::nullopt, control::install_generated(GetParam()));
+  const std::string description = GetParam().description;
+  if (description.starts_with('/')) {
+    ASSERT_EQ(std::nullopt, control::install_file(CIM_SOURCE_DIR "/tests" + description));
+  } else if (!description.empty()) {
+    ASSERT_EQ(std::nullopt, control::install_generated(description));
   }
+  control::set_faults(GetParam().faults);
 }
 
 namespace {
@@ -270,20 +275,62 @@ TEST_P(OnFabrics, AWalkFromTheSwitchReachesEveryObject) {
   EXPECT_TRUE(unreached.empty()) << first_of(unreached);
 }
 
-std::string fabric_name(const testing::TestParamInfo<const char*>& fabric) {
-  constexpr const char* kNames[] = {"Default", "Mixed", "Small", "Medium"};
-  return kNames[fabric.index];
+std::string fabric_name(const testing::TestParamInfo<TestedFabric>& fabric) {
+  return fabric.param.name;
+}
+
+constexpr const char* kOtherMakers = "/simulator/data/other_makers.json";
+
+// The links that the switch of a domain tells are not known: of those to it, the others tell.
+switch_sim::Fault links_not_told(uint32_t domain) {
+  switch_sim::Fault fault;
+  fault.opcode = 53;
+  fault.word = {4, domain};
+  fault.value = 0x40300002;
+  return fault;
+}
+
+// The configuration server does not tell of switches whose WWNs begin so.
+switch_sim::Fault no_element(uint32_t beginning) {
+  switch_sim::Fault fault = links_not_told(0);
+  fault.opcode = 1402;
+  fault.word = {8, beginning};
+  return fault;
+}
+
+// The record of a switch ends before its last link.
+switch_sim::Fault links_cut(uint32_t domain, int32_t bytes) {
+  switch_sim::Fault fault = links_not_told(domain);
+  fault.kind = switch_sim::Fault::Kind::short_reply;
+  fault.value = bytes;
+  return fault;
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Fabrics, OnFabrics,
     testing::Values(
-        "", "switches=3,ports=12,vsans=3,devices=9,zones=2,members=4,aliases=1,seed=5",
-        "switches=2,ports=48,vsans=2,devices=20,zones=50,members=125,seed=9"
+        TestedFabric{"Default", ""},
+        TestedFabric{"Mixed",
+                     "switches=3,ports=12,vsans=3,devices=9,zones=2,members=4,aliases=1,seed=5"},
+        TestedFabric{"Small", "switches=2,ports=48,vsans=2,devices=20,zones=50,members=125,seed=9"},
+        TestedFabric{"OtherMakers", kOtherMakers},
+        TestedFabric{
+            "OtherMakersThatTellNoLinks", kOtherMakers, {links_not_told(5), links_not_told(6)}},
+        TestedFabric{"OtherMakersThatAreNoElements", kOtherMakers, {no_element(0x10000060)}},
+        TestedFabric{"LinksThatOneSideTells",
+                     "",
+                     {links_not_told(98), links_cut(99, 72), links_not_told(21)}},
+        TestedFabric {
+          "LinksThatTheOwnSwitchDoesNotTell", "", {
+            links_not_told(97)
+          }
+        }
 #ifdef NDEBUG
         // Where the tests run at full speed.
         ,
-        "switches=8,ports=384,vsans=8,devices=300,zones=125,members=375,aliases=62,seed=3"
+        TestedFabric{
+            "Medium",
+            "switches=8,ports=384,vsans=8,devices=300,zones=125,members=375,aliases=62,seed=3"}
 #endif
         ),
     fabric_name);

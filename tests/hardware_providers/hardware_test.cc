@@ -134,6 +134,16 @@ TEST_F(HardwareObjects, ASwitchWithoutModulesHasNone) {
   EXPECT_EQ(count("VEXOR_PhysicalPackage"), 1u);
 }
 
+// Providers on the OpenPegasus interface make VEXOR_Switch.
+TEST_F(HardwareObjects, TheClassThatOtherProvidersServeIsNamedInTheRefusal) {
+  const char* const refusal = "\"VEXOR_Switch\" is not a class of this provider";
+  expect_error(CMPI_RC_ERR_NOT_SUPPORTED, refusal, [&] { names("VEXOR_Switch"); });
+  expect_error(CMPI_RC_ERR_NOT_SUPPORTED, refusal, [&] {
+    get("root/cimv2:VEXOR_Switch.Name=\"2000000DEC0A1B2C\",CreationClassName=\"VEXOR_Switch\"");
+  });
+  EXPECT_EQ(count("VEXOR_ComputerSystem"), 3u + 6u);
+}
+
 TEST_F(HardwareObjects, NothingOfHardwareIsCreatedOrDeleted) {
   expect_error(CMPI_RC_ERR_NOT_SUPPORTED, "cannot be deleted",
                [&] { manager_->delete_instance(path(kProduct)); });

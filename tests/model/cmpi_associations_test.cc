@@ -32,46 +32,50 @@ struct Association {
   Build build;
   const char* first;
   const char* second;
+  // Whether the reference is null where the broker gives a path that cannot be used; else that path
+  // is handed on.
+  bool tests_its_path;
 };
 
 constexpr Association kAssociations[] = {
     {"hosted_dependency", "VEXOR_HostedDependency", hosted_dependency_fill_reference,
-     hosted_dependency_build_instance, "Antecedent", "Dependent"},
+     hosted_dependency_build_instance, "Antecedent", "Dependent", true},
     {"hosted_access_point", "VEXOR_HostedAccessPoint", hosted_access_point_fill_reference,
-     hosted_access_point_build_instance, "Antecedent", "Dependent"},
+     hosted_access_point_build_instance, "Antecedent", "Dependent", true},
     {"device_sap_implementation", "VEXOR_DeviceSAPImplementation",
      device_sap_implementation_fill_reference, device_sap_implementation_build_instance,
-     "Antecedent", "Dependent"},
+     "Antecedent", "Dependent", true},
     {"active_connection", "VEXOR_ActiveConnection", active_connection_fill_reference,
-     active_connection_build_instance, "Antecedent", "Dependent"},
+     active_connection_build_instance, "Antecedent", "Dependent", true},
     {"fcnode_member_collection", "VEXOR_FCNodeMemberOfCollection",
      fcnode_member_collection_fill_reference, fcnode_member_collection_build_instance, "Collection",
-     "Member"},
+     "Member", true},
     {"connectivity_member_collection", "VEXOR_ConnectivityMemberOfCollection",
      connectivity_member_collection_fill_reference, connectivity_member_collection_build_instance,
-     "Collection", "Member"},
+     "Collection", "Member", true},
     {"system_device", "VEXOR_SystemDevice", system_device_fill_reference,
-     system_device_build_instance, "GroupComponent", "PartComponent"},
+     system_device_build_instance, "GroupComponent", "PartComponent", true},
     {"realize", "VEXOR_Realizes", realize_fill_reference, realize_build_instance, "Antecedent",
-     "Dependent"},
+     "Dependent", false},
     {"switch_package", "VEXOR_ComputerSystemPackage", switch_package_fill_reference_op,
-     switch_package_build_instance_op, "Antecedent", "Dependent"},
+     switch_package_build_instance_op, "Antecedent", "Dependent", false},
     {"product_physical_element", "VEXOR_ProductPhysicalComponent",
      product_physical_element_fill_reference, product_physical_element_build_instance,
-     "GroupComponent", "PartComponent"},
+     "GroupComponent", "PartComponent", false},
     {"module_port", "VEXOR_ModulePort", module_port_fill_reference, module_port_build_instance,
-     "GroupComponent", "PartComponent"},
+     "GroupComponent", "PartComponent", false},
     {"zmoc", "VEXOR_ZoneMemberOfCollection", zmoc_fill_reference_MemberCollection,
-     zmoc_build_instance_MemberCollection, "Collection", "Member"},
+     zmoc_build_instance_MemberCollection, "Collection", "Member", false},
     {"zhc", "VEXOR_ZoneHostedCollection", zone_hosted_collection_fill_reference, zhc_build_instance,
-     "Antecedent", "Dependent"},
+     "Antecedent", "Dependent", false},
 };
 constexpr Association kIdentity = {"logical_identity",
                                    "VEXOR_LogicalIdentity",
                                    logical_identity_fill_reference,
                                    logical_identity_build_instance,
                                    "SystemElement",
-                                   "SameElement"};
+                                   "SameElement",
+                                   true};
 
 std::vector<Association> all() {
   std::vector<Association> result(std::begin(kAssociations), std::end(kAssociations));
@@ -151,10 +155,21 @@ TEST_F(CmpiAssociations, AReferenceOfABadPathIsWhatTheBrokerGave) {
   for (const Association& a : all()) {
     broker_.fail_nth_path(1, Failure::null_object);
     EXPECT_EQ(a.fill("C", kNamespace, one_, two_, broker_), nullptr) << a.stem;
+    if (a.tests_its_path) continue;
     broker_.fail_nth_path(1, Failure::null_handle);
     CMPIObjectPath* path = a.fill("C", kNamespace, one_, two_, broker_);
     ASSERT_NE(path, nullptr) << a.stem;
     EXPECT_EQ(path->hdl, nullptr) << a.stem;
+  }
+}
+
+TEST_F(CmpiAssociations, AReferenceThatTestsItsPathIsNoneForABadOne) {
+  for (const Association& a : all()) {
+    if (!a.tests_its_path) continue;
+    for (const Failure how : {Failure::null_object, Failure::null_handle}) {
+      broker_.fail_nth_path(1, how);
+      EXPECT_EQ(a.fill("C", kNamespace, one_, two_, broker_), nullptr) << a.stem;
+    }
   }
 }
 

@@ -71,6 +71,22 @@ TEST_F(ProviderCosts, AContainedDomainCostsOneExchangeMorePerVsanForItsFabric) {
   EXPECT_EQ(ten.calls(), 1u + 10u + 10u + 10u);
 }
 
+TEST_F(ProviderCosts, AConnectivityCollectionIsFoundWithOneExchange) {
+  SwitchDouble large(100);
+  const auto* path = broker_.path("VEXOR_ConnectivityCollection", {{"InstanceID", "73"}});
+  EXPECT_EQ(get(path).returned.instances,
+            (Texts{"VEXOR_ConnectivityCollection {InstanceID=\"73\"}"}));
+  EXPECT_EQ(large.calls(kVsanOpcode), 1u);
+  EXPECT_EQ(large.calls(), 1u);
+}
+
+// The domain manager has nothing to tell of them.
+TEST_F(ProviderCosts, ConnectivityCollectionsAreReadWithOneExchangePerVsanAndOneMore) {
+  SwitchDouble ten(10);
+  EXPECT_EQ(names("VEXOR_ConnectivityCollection").returned.paths.size(), 10u);
+  EXPECT_EQ(ten.calls(), 1u + 10u);
+}
+
 TEST_F(ProviderCosts, TheFabricsVsansAreFoundWithOneExchangeMoreThanTheirList) {
   SwitchDouble ten(10);
   EXPECT_EQ(associators(fabric_path(), {}).returned.instances.size(), 10u);

@@ -24,6 +24,8 @@ class ProviderFailures : public ProviderFixture {
     const auto* contained = broker_.path("VEXOR_ContainedDomain");
     const auto* vsan = vsan_path("2002000DEC0A1B2D");
     const auto* fabric = fabric_path();
+    const auto* collections = broker_.path("VEXOR_ConnectivityCollection");
+    const auto* collection = broker_.path("VEXOR_ConnectivityCollection", {{"InstanceID", "2"}});
     auto* link = broker_.path("VEXOR_ContainedDomain");
     broker_.add_reference(link, "GroupComponent", fabric_path());
     broker_.add_reference(link, "PartComponent", vsan_path("2002000DEC0A1B2D"));
@@ -39,6 +41,12 @@ class ProviderFailures : public ProviderFixture {
         {"get", [=](auto* to) { return mi->ft->getInstance(mi, nullptr, to, vsan, nullptr); }},
         {"get fabric",
          [=](auto* to) { return mi->ft->getInstance(mi, nullptr, to, fabric, nullptr); }},
+        {"collections",
+         [=](auto* to) {
+           return mi->ft->enumerateInstances(mi, nullptr, to, collections, nullptr);
+         }},
+        {"get collection",
+         [=](auto* to) { return mi->ft->getInstance(mi, nullptr, to, collection, nullptr); }},
         {"get link", [=](auto* to) { return mi->ft->getInstance(mi, nullptr, to, link, nullptr); }},
         {"associators",
          [=](auto* to) {

@@ -219,6 +219,16 @@ TEST_F(ProviderInstances, GetOfAContainedDomainComparesBothEnds) {
 
 // ---- property lists ----
 
+TEST_F(ProviderInstances, AConnectivityCollectionGoesByTheNumberOfItsVsanAsItIsWritten) {
+  const auto collection = [&](const char* id) {
+    return broker_.path("VEXOR_ConnectivityCollection", {{"InstanceID", id}});
+  };
+  EXPECT_EQ(get(collection("2")).returned.instances,
+            (Texts{"VEXOR_ConnectivityCollection {InstanceID=\"2\"}"}));
+  for (const char* id : {"3", "02", " 2", "+2", "2x", "-2", "", "0", "4095", "4294967298", "VSAN"})
+    EXPECT_EQ(get(collection(id)).code, CMPI_RC_ERR_NOT_FOUND) << id;
+}
+
 TEST_F(ProviderInstances, APropertyListIsHonouredInAnyCaseAndKeepsTheKeys) {
   const char* list[] = {"vsanid", "STATUS", "NoSuchProperty", nullptr};
   const Texts expected = {

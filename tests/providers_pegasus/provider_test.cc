@@ -92,8 +92,8 @@ class Library {
 
 class Provider {
  public:
-  explicit Provider(const Library& library) {
-    Pegasus::CIMProvider* const made = library.create(kProvider);
+  explicit Provider(const Library& library, const char* name = kProvider) {
+    Pegasus::CIMProvider* const made = library.create(name);
     made->initialize(cimom_);
     provider_ = dynamic_cast<Pegasus::CIMInstanceProvider*>(made);
     EXPECT_NE(nullptr, provider_);
@@ -514,6 +514,146 @@ TEST_F(PegasusProvider, ThreadsGetWholeAnswers) {
   std::thread second(ask);
   first.join();
   second.join();
+}
+
+// ---- VEXOR_Switch, made of the properties that class ComputerSystem gives ----
+
+constexpr const char* kSwitchProvider = "VexorSwitchProvider";
+constexpr const char* kSwitch = "VEXOR_Switch";
+
+class PegasusSwitchProvider : public PegasusProvider {
+ protected:
+  static CIMObjectPath path_of(const char* wwn, const char* creation_class = kSwitch) {
+    CIMObjectPath path = named(wwn, creation_class);
+    path.setClassName(CIMName(kSwitch));
+    return path;
+  }
+
+  const Library library_;
+  const Provider provider_{library_, kSwitchProvider};
+};
+
+TEST_F(PegasusSwitchProvider, TheOwnSwitchIsTheOnlyOne) {
+  Paths paths;
+  provider_->enumerateInstanceNames(context_, of_class(kSwitch), paths);
+  EXPECT_EQ("processing one complete", paths.calls);
+  EXPECT_EQ((Texts{"root/cimv2:VEXOR_Switch.CreationClassName=\"VEXOR_Switch\","
+                   "Name=\"2000000DEC0A1B2C\""}),
+            paths.got);
+  Instances instances;
+  provider_->enumerateInstances(context_, of_class(kSwitch), true, true, CIMPropertyList(),
+                                instances);
+  EXPECT_EQ("processing one complete", instances.calls);
+  CIMObjectPath path = instances.got.at(0).getPath();
+  path.setHost(String());
+  EXPECT_EQ(paths.got[0], std::string(path.toString().getCString()));
+}
+
+TEST_F(PegasusSwitchProvider, TheSwitchHasThePropertiesOfItsGetters) {
+  const CIMInstance own = get(provider_, path_of(kOwn));
+  const std::pair<const char*, const char*> properties[] = {
+      {"CreationClassName", "VEXOR_Switch"},
+      {"Name", "2000000DEC0A1B2C"},
+      {"NameFormat", "WWN"},
+      {"ElementName", "switch-1"},
+      {"Vendor", "VEXOR"},
+      {"Version", "1.0"},
+      {"IdentifyingNumber", "2000000DEC0A1B2C"},
+      {"OperationalStatus", "2"},
+      {"Status", "OK"},
+      {"Dedicated", "5"},
+      {"PowerManagementCapabilities", "1"}};
+  for (const auto& [name, text] : properties)
+    EXPECT_EQ(text, value(own, name)) << name;
+  EXPECT_EQ(value(own, "Caption"), value(own, "Description"));
+  EXPECT_EQ(value(own, "PrimaryOwnerName"), value(own, "PrimaryOwnerContact"));
+  EXPECT_EQ(15U, own.getPropertyCount());
+}
+
+// As an object manager takes them: the up-time is no date and time, and left out.
+TEST_F(PegasusSwitchProvider, PropertiesAreOfTheTypesThatTheClassDeclares) {
+  const CIMInstance own = get(provider_, path_of(kOwn));
+  const auto* cls = repository_.find(kSwitch);
+  ASSERT_NE(nullptr, cls);
+  for (Uint32 i = 0; i < own.getPropertyCount(); ++i) {
+    const auto property = own.getProperty(i);
+    const std::string name(property.getName().getString().getCString());
+    const auto* declared = repository_.property(*cls, name);
+    ASSERT_NE(nullptr, declared) << name;
+    EXPECT_EQ(declared->is_array, property.getValue().isArray()) << name;
+    EXPECT_EQ(cim::schema::type_name(declared->type),
+              property.getType() == Pegasus::CIMTYPE_STRING   ? "string"
+              : property.getType() == Pegasus::CIMTYPE_UINT16 ? "uint16"
+                                                              : "another type")
+        << name;
+  }
+  EXPECT_EQ("(none)", value(own, "InstallDate"));
+}
+
+TEST_F(PegasusSwitchProvider, AnotherSwitchIsNotFound) {
+  EXPECT_NE(std::string::npos, error_of_get(provider_, path_of(kRemote)).find("6 "));
+  EXPECT_NE(std::string::npos, error_of_get(provider_, path_of("N/A")).find("6 "));
+  EXPECT_NE(std::string::npos,
+            error_of_get(provider_, path_of(kOwn, "VEXOR_PhysicalComputerSystem")).find("6 "));
+}
+
+TEST_F(PegasusSwitchProvider, AnotherClassIsRefused) {
+  EXPECT_EQ("5 this provider serves VEXOR_Switch only",
+            error_of_get(provider_, named(kOwn)).substr(0, 42));
+  Paths paths;
+  EXPECT_NE("(nothing)",
+            error_of([&] { provider_->enumerateInstanceNames(context_, of_class(), paths); }));
+  Instances instances;
+  EXPECT_NE("(nothing)", error_of([&] {
+              provider_->enumerateInstances(context_, of_class(), true, true, CIMPropertyList(),
+                                            instances);
+            }));
+}
+
+TEST_F(PegasusSwitchProvider, OnlyWhatIsAskedForIsDelivered) {
+  Instances instances;
+  provider_->getInstance(context_, path_of(kOwn), true, true, only({"Vendor", "Status"}),
+                         instances);
+  EXPECT_EQ(2U, instances.got.at(0).getPropertyCount());
+  EXPECT_EQ("VEXOR", value(instances.got.at(0), "Vendor"));
+}
+
+TEST_F(PegasusSwitchProvider, ASwitchWhoseWwnIsNotToldFailsTheRequest) {
+  switch_sim::Fault fault;
+  fault.opcode = 1282;
+  fault.value = 9;
+  control::set_faults({fault});
+  EXPECT_NE(std::string::npos,
+            error_of_get(provider_, path_of(kOwn)).find("does not tell the switch's WWN"));
+}
+
+// The WWN is asked for first, and again by the getters of "Name" and "IdentifyingNumber".
+TEST_F(PegasusSwitchProvider, ASwitchThatStopsTellingItsWwnFailsTheRequest) {
+  switch_sim::Fault fault;
+  fault.opcode = 1282;
+  fault.nth = 2;
+  fault.value = 9;
+  control::set_faults({fault});
+  EXPECT_NE(std::string::npos,
+            error_of_get(provider_, path_of(kOwn)).find("does not tell the switch's WWN"));
+}
+
+TEST_F(PegasusSwitchProvider, NothingOfTheSwitchIsChanged) {
+  EXPECT_NE(std::string::npos, error_of([&] {
+                                 Done done;
+                                 provider_->modifyInstance(context_, path_of(kOwn),
+                                                           CIMInstance(CIMName(kSwitch)), true,
+                                                           CIMPropertyList(), done);
+                               }).find("VEXOR_PhysicalComputerSystem"));
+  EXPECT_NE("(nothing)", error_of([&] {
+              Done done;
+              provider_->deleteInstance(context_, path_of(kOwn), done);
+            }));
+  EXPECT_NE("(nothing)", error_of([&] {
+              Paths made;
+              provider_->createInstance(context_, of_class(kSwitch), CIMInstance(CIMName(kSwitch)),
+                                        made);
+            }));
 }
 
 }  // namespace

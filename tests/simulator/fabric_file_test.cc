@@ -267,7 +267,7 @@ INSTANTIATE_TEST_SUITE_P(
         WrongFile{with_switch(R"("name": "b", "wwn": "20:00:00:00:00:00:00:0g")"),
                   "fabric.json:3:22: expected a WWN such as \"20:00:00:0d:ec:0a:1b:2c\""},
         WrongFile{with_switch(R"("name": "b", "wwn": "20:01:00:00:00:00:00:02")"),
-                  "fabric.json:3:22: a switch WWN starts with 20:00"},
+                  "fabric.json:3:22: a switch WWN starts with 20:00, another maker's with 10:00"},
         WrongFile{with_switch(R"("name": "b", "wwn": "20:00:00:00:00:00:00:01")"),
                   "fabric.json:3:22: another switch has this WWN"},
         WrongFile{with_switch(R"("name": "b", "wwn": "20:00:00:00:00:00:00:02", "address": "x")"),

@@ -65,7 +65,8 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         BrokenRule{"the local switch is missing", [](Fabric& f) { f.local_switch = {}; }},
         BrokenRule{"the local switch is missing", [](Fabric& f) { f = {}; }},
-        BrokenRule{"switch 20:01:00:0d:ec:0a:1b:5e: a switch WWN starts with 20:00",
+        BrokenRule{"switch 20:01:00:0d:ec:0a:1b:5e: a switch WWN starts with 20:00, "
+                   "another maker's with 10:00",
                    [](Fabric& f) { f.switches[1].wwn.bytes[1] = 1; }},
         BrokenRule{"switch 20:00:00:0d:ec:0a:1b:5e: the name is empty",
                    [](Fabric& f) { f.switches[1].name = ""; }},

@@ -79,6 +79,16 @@ TEST_F(Faults, WithoutANumberEachRequestThatFitsIsHit) {
   EXPECT_EQ(0, call(35, 878, 3, Pattern(260).text(0, "edge-7").bytes()).status);
 }
 
+TEST_F(Faults, ANumberInTheRequestChoosesWhichOnesFit) {
+  const auto links_of = [&](const char* domain) {
+    return call(29, 53, 1, Pattern(36).at(0, "00000001").at(4, domain).at(8, "00000001").bytes());
+  };
+  control::set_faults({{.word = Fault::Word{4, 98}, .kind = Fault::Kind::status, .value = 9}});
+  EXPECT_EQ(0, links_of("00000061").status);
+  EXPECT_EQ(9, links_of("00000062").status);
+  EXPECT_EQ(0, wwn().status);  // a request that has no such number
+}
+
 TEST_F(Faults, TheFirstFaultThatFitsWins) {
   control::set_faults({{.opcode = 125, .nth = 2, .kind = Fault::Kind::status, .value = 1},
                        {.opcode = 125, .kind = Fault::Kind::status, .value = 2}});
