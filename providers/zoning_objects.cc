@@ -8,6 +8,8 @@
 
 #include <cstring>
 
+#include "providers/lock.h"
+#include "providers/vsan.h"
 #include "providers/zoning_results.h"
 
 namespace vexor::providers {
@@ -52,6 +54,7 @@ const char* word_of(zs_object_kind kind) {
 // ---- what the library hands out ----
 
 bool check_read(int32_t result, const char* what, uint32_t vsan) {
+  check_memory();
   if (result == 0) return true;
   if (is_not_there(result)) return false;
   throw Failure(CMPI_RC_ERR_FAILED, "the zone server does not give %s of VSAN %u (status %d)", what,
@@ -59,14 +62,9 @@ bool check_read(int32_t result, const char* what, uint32_t vsan) {
 }
 
 std::vector<uint32_t> vsan_numbers(int32_t q) {
-  int32_t count = 0;
-  vsanNewEntry_t* entries = nullptr;
-  if (vsan_cim_get_all_vsanEntry(q, &count, &entries) != 0)
-    throw Failure(CMPI_RC_ERR_FAILED, "the VSAN manager does not give its VSANs");
-  const std::unique_ptr<vsanNewEntry_t, FreeBlock> owner(entries);
   std::vector<uint32_t> numbers;
-  for (int32_t index = 0; index < count; ++index)
-    numbers.push_back(entries[index].vsan_index);
+  for (const vsanNewEntry_t& entry : all_vsan_entries(q))
+    numbers.push_back(entry.vsan_index);
   return numbers;
 }
 
