@@ -37,7 +37,7 @@ class ChangeSweep : public ProviderSweep {
 
  private:
   void sweep_exchanges(const Operation& change, const Outcome& undisturbed) {
-    const auto faults = failing_exchanges(change);
+    const auto faults = failing_exchanges(change, Ways::every);
     begin_again();
     for (const Fault& fault : faults) {
       const std::string what = change.name + ", " + name_of(fault);

@@ -83,7 +83,32 @@ Fabric small_fabric() {
   return fabric;
 }
 
-std::vector<Fault> ProviderSweep::failing_exchanges(const Operation& operation) {
+namespace {
+
+// In every way.
+std::vector<Fault> failures_of(const switch_sim::Exchange& exchange, uint32_t nth) {
+  std::vector<Fault> faults;
+  const auto add = [&](Fault::Kind kind, int32_t value) {
+    Fault fault;
+    fault.nth = nth;
+    fault.kind = kind;
+    fault.value = value;
+    faults.push_back(fault);
+  };
+  add(Fault::Kind::error, ECONNRESET);
+  add(Fault::Kind::status, kRefusal);
+  add(Fault::Kind::delay, kTooLate);
+  const auto& outcome = exchange.outcome;
+  if (!outcome || !outcome->reply || outcome->reply->empty()) return faults;
+  add(Fault::Kind::without_reply, 0);
+  if (!is_text(exchange.request))
+    add(Fault::Kind::short_reply, static_cast<int32_t>(outcome->reply->size()) - 1);
+  return faults;
+}
+
+}  // namespace
+
+std::vector<Fault> ProviderSweep::failing_exchanges(const Operation& operation, Ways ways) {
   control::keep_log(true);
   control::clear_log();
   sweep_.run(operation);
@@ -92,22 +117,12 @@ std::vector<Fault> ProviderSweep::failing_exchanges(const Operation& operation) 
   control::clear_log();
   std::vector<Fault> faults;
   for (uint32_t n = 1; n <= exchanges.size(); ++n) {
-    const auto add = [&](Fault::Kind kind, int32_t value) {
-      Fault fault;
-      fault.nth = n;
-      fault.kind = kind;
-      fault.value = value;
-      faults.push_back(fault);
-    };
-    const auto& outcome = exchanges[n - 1].outcome;
-    const bool has_reply = outcome && outcome->reply && !outcome->reply->empty();
-    add(Fault::Kind::error, ECONNRESET);
-    add(Fault::Kind::status, kRefusal);
-    add(Fault::Kind::delay, kTooLate);
-    if (!has_reply) continue;
-    add(Fault::Kind::without_reply, 0);
-    if (!is_text(exchanges[n - 1].request))
-      add(Fault::Kind::short_reply, static_cast<int32_t>(outcome->reply->size()) - 1);
+    const std::vector<Fault> all = failures_of(exchanges[n - 1], n);
+    if (ways == Ways::every) {
+      faults.insert(faults.end(), all.begin(), all.end());
+    } else {
+      faults.push_back(all[n % all.size()]);
+    }
   }
   return faults;
 }

@@ -34,6 +34,9 @@ class SwitchWorksApart : public switch_sim::CallWatcher {
   std::optional<test_support::HeapLedger::GivingOut> works_;
 };
 
+// How an exchange fails: in every way, or in one of them, another for the next exchange.
+enum class Ways { every, one };
+
 class ProviderSweep : public ProviderObjects {
  protected:
   ProviderSweep() {
@@ -48,16 +51,22 @@ class ProviderSweep : public ProviderObjects {
     control::freeze_counters(true);
   }
 
-  // An operation with its n-th exchange failing, for each of its exchanges and each way to fail.
-  // Calls judge(const Outcome&, const std::string& what) after each.
+  // An operation with its n-th exchange failing, for each of its exchanges. Calls
+  // judge(const Outcome&, const std::string& what) after each. Undisturbed again, it gives `whole`.
   template <class Judge>
-  void sweep_exchanges(const Operation& operation, Judge judge) {
-    for (const Fault& fault : failing_exchanges(operation))
-      judge(run_with(fault, operation), operation.name + ", " + name_of(fault));
+  void sweep_exchanges(const Operation& operation, Ways ways, const Outcome& whole, Judge judge) {
+    constexpr size_t kTriedAgain = 5;  // after so many failures
+    const std::vector<Fault> faults = failing_exchanges(operation, ways);
+    for (size_t i = 0; i < faults.size(); ++i) {
+      const std::string what = operation.name + ", " + name_of(faults[i]);
+      judge(run_with(faults[i], operation), what);
+      if (i % kTriedAgain == 0 || i + 1 == faults.size())
+        OperationSweep::expect_same("after " + what, whole, sweep_.run(operation));
+    }
   }
 
-  // Every way in which each exchange of an operation can fail. It is run to find them.
-  std::vector<Fault> failing_exchanges(const Operation& operation);
+  // How each exchange of an operation can fail. It is run to find them.
+  std::vector<Fault> failing_exchanges(const Operation& operation, Ways ways);
   static std::string name_of(const Fault& fault);
 
   Outcome run_with(const Fault& fault, const Operation& operation);
