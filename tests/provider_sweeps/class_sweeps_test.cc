@@ -2,8 +2,8 @@
 // failing once: nothing crashes, nothing is left behind, a failure says so, and no object is given
 // that is not there.
 #include <algorithm>
-#include <regex>
 #include <set>
+#include <string_view>
 
 #include "providers/class_table.h"
 #include "tests/provider_sweeps/sweep_fixture.h"
@@ -50,22 +50,28 @@ class ClassSweep : public ProviderSweep, public testing::WithParamInterface<cons
   void add_walks(const CMPIObjectPath* from, const char* role, Ways ways, std::vector<Asked>& all) {
     const char* const association = GetParam()->name();
     all.push_back({sweep_.associators_of(from, association, role), ways});
-    all.push_back({sweep_.references_of(from, association, role), ways});
+    // From the other forms the ends are what differs.
     if (ways != Ways::every) return;
+    all.push_back({sweep_.references_of(from, association, role), ways});
     all.push_back({sweep_.associator_names_of(from, association, role), ways});
     all.push_back({sweep_.reference_names_of(from, association, role), ways});
   }
 
   // The path without its numbers: objects whose paths differ in them only are found alike.
   std::string form_of(const CMPIObjectPath* object) {
-    return std::regex_replace(broker_.text(object), std::regex("[0-9A-F]+"), "#");
+    std::string form;
+    for (const char character : broker_.text(object))
+      if (std::string_view("0123456789ABCDEF").find(character) == std::string_view::npos)
+        form += character;
+    return form;
   }
 
   // Every object given is one of those that there are. The library's builders put a text of their
   // own where the switch does not tell what a key is made of.
   static void expect_objects_of(const std::string& what, const Texts& all, const Texts& given) {
     for (const std::string& each : given)
-      EXPECT_TRUE(std::any_of(all.begin(), all.end(),
+      EXPECT_TRUE(std::find(all.begin(), all.end(), each) != all.end() ||
+                  std::any_of(all.begin(), all.end(),
                               [&](const std::string& object) { return is_same(object, each); }))
           << what << "\n"
           << each;
@@ -80,8 +86,15 @@ class ClassSweep : public ProviderSweep, public testing::WithParamInterface<cons
   }
   // The path or the identity in pieces, each with one key.
   static Texts keys_of(const std::string& object) {
-    static const std::regex kBetween("[,{}\\[\\]]");
-    return {std::sregex_token_iterator(object.begin(), object.end(), kBetween, -1), {}};
+    Texts pieces(1);
+    for (const char character : object) {
+      if (std::string_view(",{}[]").find(character) != std::string_view::npos) {
+        pieces.emplace_back();
+      } else {
+        pieces.back() += character;
+      }
+    }
+    return pieces;
   }
   static bool stands_for(const std::string& told, const std::string& key) {
     const auto value = [](const std::string& text) { return text.substr(text.find('=') + 1); };

@@ -164,7 +164,8 @@ class OperationSweep {
 
  private:
   std::string walk(Path object, const char* association) const {
-    return " of " + broker_.text(object) + " by " + association;
+    return " of " + broker_.text(object) + " by " +
+           (association != nullptr ? association : "any association");
   }
 
   TestBroker& broker_;
