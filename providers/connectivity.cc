@@ -31,6 +31,11 @@ std::string name_of(const wwn_& device, uint32_t if_index) {
   return text_of(device) + " " + std::to_string(if_index);
 }
 
+// Whether a WWN is what a switch shows in a VSAN, and not its device's.
+bool is_shown_in_vsan(const wwn_& wwn) {
+  return wwn_cim_isVexorWwn(&wwn) == 0 || wwn_cim_get_vsan_index_from_wwn_str(wwn.bytes) > 0;
+}
+
 LinkEnd as_physical(LinkEnd end, bool physical) {
   end.physical = physical;
   return end;
@@ -136,7 +141,8 @@ void add_identities_of(int32_t q, const LinkEnd& end, std::vector<LinkedPair>& f
   const uint32_t if_index = interface_of(end);
   std::vector<LinkEnd> ends = ends_in_vsans(q, device, if_index);
   if (ends.empty()) ends = ends_told_by_others(q, device, if_index);
-  if (ends.empty()) ends.push_back(end);
+  if (ends.empty() && is_shown_in_vsan(end.switch_wwn)) ends.push_back(end);
+  if (ends.empty()) return;
   add_identities(ends, found);
   if (!same_wwn(device, own_switch_wwn(q))) return;
   for (const OwnPort& port : own_port(q, kind_of(if_index), if_index))

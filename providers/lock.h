@@ -9,6 +9,9 @@
 
 #include <cim_utils/session.h>
 
+#include <cerrno>
+#include <new>
+
 #include "providers/failure.h"
 
 namespace vexor::providers {
@@ -18,10 +21,18 @@ class Lock {
   Lock() {
     const int error = mutex_lock();
     if (error != 0) throw Failure(CMPI_RC_ERR_FAILED, "the lock cannot be taken (error %d)", error);
+    errno = 0;
   }
   ~Lock() { mutex_unlock(); }
   Lock(const Lock&) = delete;
   Lock& operator=(const Lock&) = delete;
 };
+
+// Where memory ends, the library may go on without what it wanted it for, and what it gives then is
+// not what the switch has: only errno tells. Throws bad_alloc when that happened since the lock was
+// taken, unless another error came after it: to be asked soon after calls that read lists.
+inline void check_memory() {
+  if (errno == ENOMEM) throw std::bad_alloc();
+}
 
 }  // namespace vexor::providers

@@ -171,14 +171,9 @@ bool begins_with_wwn(const char* text) {
 }  // namespace
 
 std::vector<uint32_t> running_vsans(int32_t q) {
-  int32_t count = 0;
-  vsanNewEntry_t* entries = nullptr;
-  const int32_t status = vsan_cim_get_all_vsanEntry(q, &count, &entries);
-  const CBlock<vsanNewEntry_t> owner(entries);
-  if (status != 0) throw Failure(CMPI_RC_ERR_FAILED, "the VSAN manager does not give its VSANs");
   std::vector<uint32_t> running;
-  for (int32_t i = 0; i < count; ++i)
-    if (vexor::providers::is_up(entries[i])) running.push_back(entries[i].vsan_index);
+  for (const vsanNewEntry_t& entry : all_vsan_entries(q))
+    if (vexor::providers::is_up(entry)) running.push_back(entry.vsan_index);
   return running;
 }
 

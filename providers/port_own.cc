@@ -7,6 +7,7 @@
 #include <switch_platform/if_index.h>
 #include <switch_platform/port_manager.h>
 
+#include <algorithm>
 #include <charconv>
 #include <unordered_set>
 
@@ -154,15 +155,25 @@ std::optional<uint64_t> wanted_speed(const OwnPort& port, const NewValues& value
   return wanted;
 }
 
+// What the capabilities tell. The library takes every other type for 17001.
+bool is_type(uint16_t type) {
+  constexpr uint16_t kTypes[] = {4, 5, 6, 17001, 17002, 17016, 17064};
+  return std::find(std::begin(kTypes), std::end(kTypes), type) != std::end(kTypes);
+}
+
+// Whether a change that failed may have been made all the same: it was not refused, its answer is
+// missing.
+bool may_be_done(int32_t status) {
+  return status < 0;
+}
+
 // The type that a port is to have; nothing: as it is.
 std::optional<uint16_t> wanted_type(const OwnPort& port, const NewValues& values) {
   std::string text;
   if (!values.text("RequestedType", text)) return std::nullopt;
   const auto type = read_number<uint16_t>(text.c_str());
   if (type == pm_cim_convert_port_mode_fcportsettings(port.info->admin_mode)) return std::nullopt;
-  // What the capabilities tell. The library takes every other type for 17001.
-  for (const uint16_t known : {4, 5, 6, 17001, 17002, 17016, 17064})
-    if (type == known) return type;
+  if (type && is_type(*type)) return type;
   throw Failure(CMPI_RC_ERR_INVALID_PARAMETER,
                 "RequestedType is %.40s, not 4, 5, 6, 17001, 17002, 17016 or 17064", text.c_str());
 }
@@ -351,11 +362,17 @@ void modify_port_settings(int32_t q, const OwnPort& port, const NewValues& value
   const auto speed = wanted_speed(port, values);
   const auto type = wanted_type(port, values);
   const uint32_t if_index = port.info->if_index;
-  if (speed) check(pm_cim_set_port_admin_speed(*speed, if_index, q), port, "speed");
+  const uint64_t old = speed_of(*port.info);
+  if (speed) {
+    const int32_t status = pm_cim_set_port_admin_speed(*speed, if_index, q);
+    if (may_be_done(status) && can_be_set(old)) pm_cim_set_port_admin_speed(old, if_index, q);
+    check(status, port, "speed");
+  }
   if (!type) return;
   const int32_t status = pm_cim_set_port_admin_mode(*type, if_index, q);
   if (status == 0) return;
-  const uint64_t old = speed_of(*port.info);
+  const uint16_t old_type = pm_cim_convert_port_mode_fcportsettings(port.info->admin_mode);
+  if (may_be_done(status) && is_type(old_type)) pm_cim_set_port_admin_mode(old_type, if_index, q);
   if (speed && (!can_be_set(old) || pm_cim_set_port_admin_speed(old, if_index, q) != 0))
     throw Failure(CMPI_RC_ERR_FAILED,
                   "the port manager refuses the type of %s (status %d), and keeps the new speed",

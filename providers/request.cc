@@ -1,5 +1,7 @@
 #include "providers/request.h"
 
+#include <type_traits>
+
 #include "providers/forwarding_broker.h"
 #include "providers/lock.h"
 #include "providers/queue.h"
@@ -11,7 +13,14 @@ namespace {
 template <class Read>
 auto locked(Read read) {
   const Lock lock;
-  return read(queue::handle());
+  if constexpr (std::is_void_v<decltype(read(queue::handle()))>) {
+    read(queue::handle());
+    check_memory();
+  } else {
+    auto result = read(queue::handle());
+    check_memory();
+    return result;
+  }
 }
 
 void check(const CMPIStatus& status, const char* what) {
@@ -137,6 +146,7 @@ CMPIObjectPath* Request::build_path(const char* class_name, Build build) const {
     const Lock lock;
     queue::handle();  // what builds asks on it
     path = build(Target{class_name, name_space_.c_str(), broker.face(), nullptr});
+    check_memory();
   }
   if (path == nullptr || path->hdl == nullptr)
     throw Failure(CMPI_RC_ERR_FAILED, "an object path of %s cannot be made", class_name);
@@ -157,6 +167,7 @@ CMPIInstance* Request::build_instance(const char* class_name, const char** prope
     const Lock lock;
     queue::handle();
     made = build(Target{class_name, name_space_.c_str(), broker.face(), properties});
+    check_memory();
   }
   CMPIInstance* instance = ForwardingBroker::real_instance(made);
   if (instance == nullptr)

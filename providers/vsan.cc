@@ -4,11 +4,11 @@
 #include <cim_utils/domain_manager.h>
 #include <cim_utils/vsan.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
-#include <span>
 
 namespace vexor::providers {
 namespace {
@@ -18,24 +18,6 @@ constexpr size_t kWwnDigits = 16;
 
 struct FreeBlock {
   void operator()(void* block) const { std::free(block); }
-};
-
-// Those of all VSANs. Throws Failure when the VSAN manager does not give them.
-class Entries {
- public:
-  explicit Entries(int32_t q) {
-    vsanNewEntry_t* entries = nullptr;
-    if (vsan_cim_get_all_vsanEntry(q, &count_, &entries) != 0)
-      throw Failure(CMPI_RC_ERR_FAILED, "the VSAN manager does not give its VSANs");
-    owner_.reset(entries);
-  }
-  std::span<const vsanNewEntry_t> all() const {
-    return {owner_.get(), count_ > 0 ? static_cast<size_t>(count_) : 0};
-  }
-
- private:
-  int32_t count_ = 0;
-  std::unique_ptr<vsanNewEntry_t, FreeBlock> owner_;
 };
 
 // The domain manager's part; the entry is there already.
@@ -51,6 +33,11 @@ bool has_wwn(const VsanRecord& vsan, const char* wwn) {
          std::strcmp(text, wwn) == 0;
 }
 
+// The VSAN manager may say yes and reply nothing: the library leaves the entry as it was then.
+bool is_told(const vsanNewEntry_t& entry) {
+  return entry.vsan_index != 0 && entry.admin_state != 0;
+}
+
 }  // namespace
 
 bool read_vsan_entry(int32_t q, uint32_t number, vsanNewEntry_t& entry) {
@@ -61,6 +48,8 @@ bool read_vsan_entry(int32_t q, uint32_t number, vsanNewEntry_t& entry) {
   // The service's own refusals are positive; a negative status says that nobody answered.
   if (status < 0)
     throw Failure(CMPI_RC_ERR_FAILED, "the VSAN manager does not answer (status %d)", status);
+  if (status == 0 && !is_told(entry))
+    throw Failure(CMPI_RC_ERR_FAILED, "the VSAN manager does not tell of VSAN %u", number);
   return status == 0;
 }
 
@@ -70,20 +59,29 @@ bool read_vsan(int32_t q, uint32_t number, VsanRecord& vsan) {
   return true;
 }
 
+std::vector<vsanNewEntry_t> all_vsan_entries(int32_t q) {
+  int32_t count = 0;
+  vsanNewEntry_t* entries = nullptr;
+  const int32_t status = vsan_cim_get_all_vsanEntry(q, &count, &entries);
+  const std::unique_ptr<vsanNewEntry_t, FreeBlock> owner(entries);
+  if (status != 0 || !std::all_of(entries, entries + count, is_told))
+    throw Failure(CMPI_RC_ERR_FAILED, "the VSAN manager does not give its VSANs");
+  return {entries, entries + count};
+}
+
 std::vector<VsanRecord> all_vsans(int32_t q) {
-  const Entries entries(q);
-  std::vector<VsanRecord> vsans(entries.all().size());
+  const std::vector<vsanNewEntry_t> entries = all_vsan_entries(q);
+  std::vector<VsanRecord> vsans(entries.size());
   for (size_t index = 0; index < vsans.size(); ++index) {
-    vsans[index].entry = entries.all()[index];
+    vsans[index].entry = entries[index];
     complete(q, vsans[index]);
   }
   return vsans;
 }
 
 std::vector<uint32_t> vsan_numbers(int32_t q) {
-  const Entries entries(q);
   std::vector<uint32_t> numbers;
-  for (const vsanNewEntry_t& entry : entries.all())
+  for (const vsanNewEntry_t& entry : all_vsan_entries(q))
     numbers.push_back(entry.vsan_index);
   return numbers;
 }

@@ -30,6 +30,10 @@ inline bool is_up(const vsanNewEntry_t& entry) {
 bool read_vsan_entry(int32_t q, uint32_t number, vsanNewEntry_t& entry);
 bool read_vsan(int32_t q, uint32_t number, VsanRecord& vsan);
 
+// All of them without the domain manager's part: the count, then one exchange each. Throws Failure
+// when the VSAN manager does not give its VSANs.
+std::vector<vsanNewEntry_t> all_vsan_entries(int32_t q);
+
 // The count, then one exchange with the VSAN manager and one with the domain manager per VSAN. When
 // the VSAN manager stops answering on the way, the VSANs read until then are the result: the
 // library does not tell the difference.

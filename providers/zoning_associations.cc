@@ -9,6 +9,7 @@
 
 #include <cstring>
 
+#include "providers/lock.h"
 #include "providers/zoning_changes.h"
 #include "providers/zoning_results.h"
 #include "providers/zoning_service.h"
@@ -47,6 +48,7 @@ std::vector<ZoningObject> as_objects(const std::vector<Record>& records) {
 // The library gives the same answer for an object without children, one that is not there and one
 // that cannot be read: the last is an error.
 void check_children(int32_t q, int32_t result, const Start& from) {
+  check_memory();
   if (result == 0) return;
   const Shared object = read_zoning_object(q, from.kind, from.id);
   // A zone set without zones is such a failure, too.

@@ -216,17 +216,70 @@ int32_t remove_record(int32_t q, zs_object_kind kind, const ZoningId& parent,
   return result;
 }
 
-// From every zone or every alias that holds it; goes on where the zone server refuses. Result: its
-// first refusal.
-int32_t remove_from_all(int32_t q, zs_object_kind kind, const char* member) {
-  int32_t result = 0;
-  for (const ZoningObject& parent : parents_of_member(q, kind, member)) {
-    const auto id = read_zoning_id(instance_id_of(parent));
-    const int32_t removed = id ? remove_member_from(q, kind, *id, member) : -1;
-    // Somebody else was faster.
-    if (result == 0 && !is_not_there(removed)) result = removed;
+// ---- removal everywhere ----
+
+// A member in a zone or an alias, in the forms in which the zone server may keep it.
+struct Holding {
+  zs_object_kind kind;
+  ZoningId parent;
+  std::vector<PackedMember> forms;
+};
+
+// One that was taken out.
+struct Taken {
+  zs_object_kind kind;
+  ZoningId parent;
+  PackedMember form;
+};
+
+std::vector<Holding> holdings(int32_t q, const char* member) {
+  std::vector<Holding> found;
+  for (const zs_object_kind kind : {ZS_OBJECT_ZONE, ZS_OBJECT_ALIAS})
+    for (const ZoningObject& parent : parents_of_member(q, kind, member)) {
+      const auto id = read_zoning_id(instance_id_of(parent));
+      if (!id)
+        throw Failure(CMPI_RC_ERR_FAILED, "what holds zone member %.200s has no name", member);
+      // Long texts may share an instance id.
+      for (const zs_cim_zone_member_& record : members_of(q, kind, instance_id_of(parent)))
+        if (strcasecmp(record.instance_id, member) == 0)
+          found.push_back({kind, *id, packed_forms(record)});
+    }
+  return found;
+}
+
+// `taken` has room for one more. A removal whose answer is missing may have been made.
+int32_t take_out(int32_t q, const Holding& holding, std::vector<Taken>& taken) {
+  int32_t result = ZS_BAD_MEMBER;
+  for (const PackedMember& form : holding.forms) {
+    result = remove_packed(q, holding.kind, holding.parent, form);
+    if (result <= 0) taken.push_back({holding.kind, holding.parent, form});
+    if (result != ZS_NO_SUCH_MEMBER) break;
   }
   return result;
+}
+
+// Result: the zone server's first refusal.
+int32_t take_out_everywhere(int32_t q, const char* member, std::vector<Taken>& taken) {
+  constexpr int kMostRounds = 3;
+  // The library leaves out holders that it cannot read: it is done when there are none any more.
+  for (int round = 0; round < kMostRounds; ++round) {
+    const std::vector<Holding> all = holdings(q, member);
+    if (all.empty()) return 0;
+    taken.reserve(taken.size() + all.size());
+    for (const Holding& holding : all) {
+      const int32_t result = take_out(q, holding, taken);
+      // Somebody else may have been faster.
+      if (result != 0 && !is_not_there(result)) return result;
+    }
+  }
+  return ZS_MEMBER_EXISTS;
+}
+
+void put_back(int32_t q, const std::vector<Taken>& taken) {
+  int32_t error = 0;
+  for (const Taken& each : taken)
+    zs_cim_add_zoning_member(q, 1, each.parent.vsan, 0, each.kind, each.parent.object,
+                             each.form.type, each.form.value.data(), each.form.length, &error);
 }
 
 // ---- records ----
@@ -311,9 +364,15 @@ void delete_zone_member(int32_t q, const zs_cim_zone_member_& member) {
   const auto id = read_member_id(member.instance_id);
   if (!id) throw Failure(CMPI_RC_ERR_FAILED, "%.200s is no zone member", member.instance_id);
   check_editable(id->active, "zone member", member.instance_id);
-  const int32_t from_zones = remove_from_all(q, ZS_OBJECT_ZONE, member.instance_id);
-  const int32_t from_aliases = remove_from_all(q, ZS_OBJECT_ALIAS, member.instance_id);
-  const int32_t result = from_zones != 0 ? from_zones : from_aliases;
+  std::vector<Taken> taken;
+  int32_t result = 0;
+  try {
+    result = take_out_everywhere(q, member.instance_id, taken);
+  } catch (...) {
+    put_back(q, taken);
+    throw;
+  }
+  if (result != 0) put_back(q, taken);
   if (result != 0)
     throw Failure(cim_status(result),
                   "the zone server does not remove zone member %.200s everywhere (status %d)",

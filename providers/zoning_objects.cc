@@ -8,6 +8,7 @@
 
 #include <cstring>
 
+#include "providers/lock.h"
 #include "providers/zoning_results.h"
 
 namespace vexor::providers {
@@ -52,6 +53,7 @@ const char* word_of(zs_object_kind kind) {
 // ---- what the library hands out ----
 
 bool check_read(int32_t result, const char* what, uint32_t vsan) {
+  check_memory();
   if (result == 0) return true;
   if (is_not_there(result)) return false;
   throw Failure(CMPI_RC_ERR_FAILED, "the zone server does not give %s of VSAN %u (status %d)", what,

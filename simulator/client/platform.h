@@ -15,6 +15,7 @@
 
 #include <switch_platform/types.h>
 
+#include "simulator/client/call_watcher.h"
 #include "simulator/client/state_store.h"
 #include "simulator/fabric/fabric.h"
 #include "simulator/fabric/fabric_file.h"
@@ -160,6 +161,7 @@ class Platform {
 // when memory ends, the result is `failure` and errno is ENOMEM.
 template <typename Result, typename Work>
 Result on_platform(Result failure, Work work) {
+  const WatchedCall call;
   try {
     Platform& platform = Platform::instance();
     const auto lock = platform.lock();

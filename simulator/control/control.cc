@@ -181,6 +181,10 @@ void freeze_counters(bool on) {
   locked([&](Platform& platform) { platform.freeze_counters(on); });
 }
 
+void watch_calls(CallWatcher* watcher) {
+  call_watcher = watcher;
+}
+
 Outstanding outstanding() {
   return locked([](Platform& platform) {
     const HandedOut handed_out = platform.handed_out();

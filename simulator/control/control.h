@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "simulator/client/call_watcher.h"
 #include "simulator/fabric/fabric.h"
 #include "simulator/transport/faults.h"
 #include "simulator/transport/request_log.h"
@@ -83,6 +84,10 @@ void advance(VirtualTime by);
 
 // The counters of ports stand still from now on, or go on from what the clock shows.
 void freeze_counters(bool on);
+
+// Is told of the work of each client function from now on; null: nobody is. For programs that tell
+// the platform's memory from its callers'. The watcher must outlive its time.
+void watch_calls(CallWatcher* watcher);
 
 // What the client functions gave out. Messages, iterators and queues are those not given back yet;
 // replies are all that were handed out, since callers release them with free().

@@ -1,126 +1,67 @@
 // Whatever fails on the way, the client gets a status with a sentence, the lock is free, and
 // nothing is left on the heap.
-#include <functional>
-
+#include "tests/providers/operation_sweep.h"
 #include "tests/providers/provider_fixture.h"
-#include "tests/support/heap_ledger.h"
 
 namespace {
 
 using namespace provider_tests;
-using test_support::FailingAllocation;
 using test_support::HeapLedger;
 
 class ProviderFailures : public ProviderFixture {
  protected:
-  // One request of each kind, prepared outside the ledger.
-  struct Operation {
-    const char* name;
-    std::function<CMPIStatus(const CMPIResult*)> run;
-  };
-
+  // One request of each kind.
   std::vector<Operation> operations() {
-    const auto* vsans = broker_.path("VEXOR_Vsan");
-    const auto* contained = broker_.path("VEXOR_ContainedDomain");
     const auto* vsan = vsan_path("2002000DEC0A1B2D");
-    const auto* fabric = fabric_path();
     const auto* collections = broker_.path("VEXOR_ConnectivityCollection");
     const auto* collection = broker_.path("VEXOR_ConnectivityCollection", {{"InstanceID", "2"}});
     auto* link = broker_.path("VEXOR_ContainedDomain");
     broker_.add_reference(link, "GroupComponent", fabric_path());
     broker_.add_reference(link, "PartComponent", vsan_path("2002000DEC0A1B2D"));
     static const char* list[] = {"Status", nullptr};
-    CMPIInstanceMI* mi = instances_;
-    CMPIAssociationMI* am = associations_;
-    return {
-        {"names", [=](auto* to) { return mi->ft->enumerateInstanceNames(mi, nullptr, to, vsans); }},
-        {"instances",
-         [=](auto* to) { return mi->ft->enumerateInstances(mi, nullptr, to, vsans, list); }},
-        {"links",
-         [=](auto* to) { return mi->ft->enumerateInstances(mi, nullptr, to, contained, nullptr); }},
-        {"get", [=](auto* to) { return mi->ft->getInstance(mi, nullptr, to, vsan, nullptr); }},
-        {"get fabric",
-         [=](auto* to) { return mi->ft->getInstance(mi, nullptr, to, fabric, nullptr); }},
-        {"collections",
-         [=](auto* to) {
-           return mi->ft->enumerateInstances(mi, nullptr, to, collections, nullptr);
-         }},
-        {"get collection",
-         [=](auto* to) { return mi->ft->getInstance(mi, nullptr, to, collection, nullptr); }},
-        {"get link", [=](auto* to) { return mi->ft->getInstance(mi, nullptr, to, link, nullptr); }},
-        {"associators",
-         [=](auto* to) {
-           return am->ft->associators(am, nullptr, to, fabric, nullptr, nullptr, nullptr, nullptr,
-                                      nullptr);
-         }},
-        {"associators of a VSAN",
-         [=](auto* to) {
-           return am->ft->associators(am, nullptr, to, vsan, "VEXOR_ContainedDomain", nullptr,
-                                      nullptr, nullptr, nullptr);
-         }},
-        {"references",
-         [=](auto* to) {
-           return am->ft->references(am, nullptr, to, vsan, "VEXOR_ContainedDomain", nullptr,
-                                     nullptr);
-         }},
-        {"reference names",
-         [=](auto* to) {
-           return am->ft->referenceNames(am, nullptr, to, fabric, nullptr, nullptr);
-         }},
-    };
+    return {sweep_.names_of(broker_.path("VEXOR_Vsan")),
+            sweep_.instances_of(broker_.path("VEXOR_Vsan"), list),
+            sweep_.instances_of(broker_.path("VEXOR_ContainedDomain")),
+            sweep_.instances_of(collections),
+            sweep_.getting(collection),
+            sweep_.getting(vsan),
+            sweep_.getting(fabric_path()),
+            sweep_.getting(link),
+            sweep_.associators_of(fabric_path(), nullptr),
+            sweep_.associators_of(vsan, "VEXOR_ContainedDomain"),
+            sweep_.references_of(vsan, "VEXOR_ContainedDomain"),
+            sweep_.reference_names_of(fabric_path(), nullptr)};
   }
 
-  // A failed request says why; one that succeeded ended its result.
-  void expect_clear_end(const char* operation, const CMPIStatus& status, const Returned& returned) {
-    const HeapLedger::Pause pause;
-    EXPECT_TRUE(lock_is_free()) << operation;
-    EXPECT_EQ(returned.done, status.rc == CMPI_RC_OK ? 1 : 0) << operation;
-    EXPECT_EQ(broker_.text(status.msg).empty(), status.rc == CMPI_RC_OK) << operation;
-  }
-
-  Outcome run(const Operation& operation) {
-    return ask([&](const CMPIResult* result) { return operation.run(result); });
-  }
+  OperationSweep sweep_{broker_, instances_, associations_, methods_};
 };
 
 TEST_F(ProviderFailures, EveryFailingAllocationIsReportedAndLeavesNothing) {
   for (const Operation& operation : operations()) {
-    const Outcome whole = run(operation);
+    const Outcome whole = sweep_.run(operation);
     ASSERT_EQ(whole.code, CMPI_RC_OK) << operation.name;
-    const size_t rounds = test_support::for_every_failing_allocation([&](FailingAllocation& round) {
-      Returned returned;
-      const CMPIResult* result = broker_.result(returned);
-      const CMPIStatus status = round.attempt([&] { return operation.run(result); });
-      expect_clear_end(operation.name, status, returned);
-      EXPECT_EQ(status.rc, round.was_hit() ? CMPI_RC_ERR_FAILED : CMPI_RC_OK)
-          << operation.name << ", allocation " << round.n();
-      // What was returned until then is a beginning of the whole.
-      EXPECT_LE(returned.paths.size(), whole.returned.paths.size());
-      EXPECT_LE(returned.instances.size(), whole.returned.instances.size());
-      for (size_t i = 0; i < returned.instances.size(); ++i)
-        EXPECT_EQ(returned.instances[i], whole.returned.instances[i]) << operation.name;
-      const HeapLedger::Pause pause;
-      returned = {};
-    });
-    EXPECT_GT(rounds, 3u) << operation.name;
+    const size_t failed = sweep_.sweep_allocations(
+        operation, whole, [&](const Outcome& outcome, const std::string& what) {
+          EXPECT_EQ(outcome.code, CMPI_RC_ERR_FAILED) << what;
+          // What was returned until then is a beginning of the whole.
+          EXPECT_LE(outcome.returned.paths.size(), whole.returned.paths.size());
+          EXPECT_LE(outcome.returned.instances.size(), whole.returned.instances.size());
+          for (size_t i = 0; i < outcome.returned.instances.size(); ++i)
+            EXPECT_EQ(outcome.returned.instances[i], whole.returned.instances[i]) << what;
+        });
+    EXPECT_GT(failed, 2u) << operation.name;
   }
 }
 
 TEST_F(ProviderFailures, EveryFailingExchangeEndsInAClearStatusAndLeavesNothing) {
   for (const Operation& operation : operations()) {
     const size_t before = switch_.calls();
-    ASSERT_EQ(run(operation).code, CMPI_RC_OK) << operation.name;
+    ASSERT_EQ(sweep_.run(operation).code, CMPI_RC_OK) << operation.name;
     const size_t exchanges = switch_.calls() - before;
     EXPECT_GT(exchanges, 0u) << operation.name;
     for (size_t n = 1; n <= exchanges; ++n) {
       switch_.responder().fail_nth_exchange(n);
-      Returned returned;
-      const CMPIResult* result = broker_.result(returned);
-      const HeapLedger ledger;
-      const CMPIStatus status = operation.run(result);
-      expect_clear_end(operation.name, status, returned);
-      const HeapLedger::Pause pause;
-      returned = {};
+      sweep_.run(operation);
     }
   }
 }

@@ -296,6 +296,20 @@ std::string print(const CMPIObjectPath* path) {
   return text;
 }
 
+// The class and its keys as the provider set them, whatever the filter lets out.
+std::string print_identity(const CMPIInstance* instance) {
+  InstanceObject& object = of(instance);
+  std::string text = object.class_name + " {";
+  const char* separator = "";
+  if (object.cls == nullptr) return text + "}";
+  for (const auto* key : object.broker->classes.keys(*object.cls)) {
+    const Named* property = find(object.properties, key->name.c_str());
+    text += separator + key->name + "=" + (property != nullptr ? print(property->data) : "null");
+    separator = ", ";
+  }
+  return text + "}";
+}
+
 bool is_listed(const Texts& list, const char* name) {
   return std::any_of(list.begin(), list.end(),
                      [name](const std::string& listed) { return same(listed, name); });
@@ -644,12 +658,18 @@ CMPIStatus return_data(const CMPIResult* result, const CMPIValue* value, CMPITyp
 
 CMPIStatus return_instance(const CMPIResult* result, const CMPIInstance* instance) {
   ResultObject& object = of(result);
-  return returned(*object.broker, [&] { object.returned->instances.push_back(print(instance)); });
+  return returned(*object.broker, [&] {
+    object.returned->instances.push_back(print(instance));
+    object.returned->identities.push_back(print_identity(instance));
+  });
 }
 
 CMPIStatus return_path(const CMPIResult* result, const CMPIObjectPath* path) {
   ResultObject& object = of(result);
-  return returned(*object.broker, [&] { object.returned->paths.push_back(print(path)); });
+  return returned(*object.broker, [&] {
+    object.returned->paths.push_back(print(path));
+    object.returned->objects.push_back(const_cast<CMPIObjectPath*>(path));
+  });
 }
 
 CMPIStatus return_done(const CMPIResult* result) {
@@ -840,6 +860,32 @@ CMPIResult* TestBroker::result(Returned& returned) {
   return &object.face;
 }
 
+namespace {
+
+template <class Object>
+void end_behind(std::deque<Object>& objects, size_t count) {
+  while (objects.size() > count)
+    objects.pop_back();
+}
+
+}  // namespace
+
+TestBroker::Made TestBroker::made() const {
+  return {impl_->strings.size(), impl_->paths.size(), impl_->instances.size(),
+          impl_->arrays.size(),  impl_->args.size(),  impl_->results.size()};
+}
+
+void TestBroker::end_objects_since(const Made& made) {
+  const Pause pause;
+  const Guard guard(impl_->mutex);
+  end_behind(impl_->strings, made.strings);
+  end_behind(impl_->paths, made.paths);
+  end_behind(impl_->instances, made.instances);
+  end_behind(impl_->arrays, made.arrays);
+  end_behind(impl_->args, made.args);
+  end_behind(impl_->results, made.results);
+}
+
 std::string TestBroker::text(const CMPIObjectPath* path) const {
   return print(path);
 }
@@ -852,6 +898,11 @@ std::string TestBroker::text(const CMPIString* string) const {
 
 void TestBroker::derives(const char* class_name, const char* superclass) {
   impl_->superclasses[class_name] = superclass;
+}
+void TestBroker::know_superclasses() {
+  const Pause pause;
+  for (const auto* cls : impl_->classes.all())
+    if (!cls->superclass.empty()) impl_->superclasses[cls->name] = cls->superclass;
 }
 void TestBroker::expect_refused_values() {
   impl_->refusals_are_expected = true;

@@ -32,6 +32,10 @@ struct Returned {
   Texts paths;
   Texts instances;
   Texts data;
+  // The class and the keys of each instance, in the order of `instances`:
+  //   VEXOR_Vsan {CreationClassName="VEXOR_Vsan", Name="2001000DEC0A1B2D"}
+  Texts identities;
+  std::vector<CMPIObjectPath*> objects;  // the paths; they are the broker's
   int done = 0;
 };
 
@@ -58,6 +62,13 @@ class TestBroker {
   // A result that keeps what it is given in `returned`, which must outlive it.
   CMPIResult* result(Returned& returned);
 
+  // Objects made so far; ends those that were made since, for tests that make very many.
+  struct Made {
+    size_t strings, paths, instances, arrays, args, results;
+  };
+  Made made() const;
+  void end_objects_since(const Made& made);
+
   std::string text(const CMPIObjectPath* path) const;
   std::string text(const CMPIInstance* instance) const;
   std::string text(const CMPIString* string) const;  // "" for null
@@ -69,6 +80,8 @@ class TestBroker {
   void derives(const char* class_name, const char* superclass);
   // Values that are refused or left out do not fail the test: it is about them.
   void expect_refused_values();
+  // All classes that it knows are known to classPathIsA with their superclasses.
+  void know_superclasses();
   // Slots that brokers leave out: classPathIsA, setPropertyFilter.
   void leave_out_optional_slots();
   void ignore_property_filters();

@@ -186,9 +186,15 @@ constinit FreedBlocks freed_blocks;
 constinit HeapLedger* active = nullptr;
 constinit uint32_t last_scope = 0;
 constinit thread_local int pauses = 0;
+constinit thread_local int givers = 0;  // of GivingOut
 
 HeapLedger* armed() {
   return pauses == 0 ? active : nullptr;
+}
+
+// The ledger that sees a block of this maker.
+HeapLedger* armed_for(Maker maker) {
+  return givers == 0 || maker == Maker::malloc ? armed() : nullptr;
 }
 
 // Under the table's lock.
@@ -226,9 +232,9 @@ struct LedgerAccess {
 namespace {
 
 void* allocate(size_t size, Maker maker, size_t alignment, bool zeroed) {
-  HeapLedger* ledger = armed();
+  HeapLedger* ledger = armed_for(maker);
   size_t number = 0;
-  if (ledger != nullptr) {
+  if (ledger != nullptr && givers == 0) {
     std::lock_guard lock(table.mutex);
     if (LedgerAccess::count(*ledger, maker, &number)) {
       errno = ENOMEM;
@@ -315,7 +321,7 @@ void keep_freed_block(const Block& freed) {
 void release(void* p, Maker maker) {
   if (p == nullptr) return;
   int error_number = errno;  // giving back never changes it
-  HeapLedger* ledger = armed();
+  HeapLedger* ledger = armed_for(maker);
   Block seen{};
   {
     std::lock_guard lock(table.mutex);
@@ -420,6 +426,12 @@ HeapLedger::Pause::Pause() {
 }
 HeapLedger::Pause::~Pause() {
   --pauses;
+}
+HeapLedger::GivingOut::GivingOut() {
+  ++givers;
+}
+HeapLedger::GivingOut::~GivingOut() {
+  --givers;
 }
 
 // GoogleTest makes a few blocks for itself when a failure is looked for the first time.

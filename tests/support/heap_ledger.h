@@ -63,6 +63,17 @@ class HeapLedger {
     Pause& operator=(const Pause&) = delete;
   };
 
+  // While one exists on this thread, a service of the same program works for the caller: what it
+  // makes with new is its own and not seen, as under a Pause. Blocks of the C heap are what it
+  // hands out: they are expected to be freed, but neither counted nor made to fail.
+  class GivingOut {
+   public:
+    GivingOut();
+    ~GivingOut();
+    GivingOut(const GivingOut&) = delete;
+    GivingOut& operator=(const GivingOut&) = delete;
+  };
+
  private:
   friend struct LedgerAccess;
   uint32_t scope_;

@@ -223,6 +223,33 @@ TEST(HeapLedger, PauseHidesTheTestsOwnAllocations) {
   free(kept);
 }
 
+TEST(HeapLedger, WhatIsGivenOutNeverFailsAndHasToBeFreed) {
+  HeapLedger ledger;
+  ledger.fail_nth(1);
+  void* given = nullptr;
+  {
+    HeapLedger::GivingOut service;
+    given = seen(malloc(5));
+  }
+  EXPECT_NE(given, nullptr);
+  EXPECT_EQ(ledger.allocations(), 0u);
+  EXPECT_EQ(ledger.outstanding(), 1u);
+  ledger.fail_none();
+  free(given);
+  EXPECT_EQ(ledger.outstanding(), 0u);
+}
+
+TEST(HeapLedger, WhatAServiceMakesForItselfIsNotSeen) {
+  int* kept = nullptr;
+  {
+    HeapLedger ledger;
+    HeapLedger::GivingOut service;
+    kept = seen(new int(1));
+    EXPECT_EQ(ledger.outstanding(), 0u);
+  }
+  delete kept;
+}
+
 TEST(HeapLedger, ABlockFromBeforeTheLedgerMayBeFreedUnderIt) {
   void* block = seen(malloc(5));
   HeapLedger ledger;

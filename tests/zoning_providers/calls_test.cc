@@ -243,9 +243,39 @@ TEST_F(ZoningMemberCalls, ASymbolicNameIsRemovedWithItsWholeText) {
   expect_in_its_zone(script);
   expect_in_all_zones(script);
   expect_in_its_zone(script);
+  script.expect(read_all_aliases(1, 0)).gives_nothing();
   expect_removal(script, joined({hex("e6 00 08 00"), terminated(name)}));
+  script.expect(read_all_zones(1, 0)).gives({zone_entry(1, 7, "web")});
   script.expect(read_all_aliases(1, 0)).gives_nothing();
   EXPECT_EQ(remove(member("1^12^a node with a name of 40 characters, yes^0")).code, CMPI_RC_OK);
+}
+
+TEST_F(ZoningMemberCalls, AMemberThatAnAliasKeepsIsPutBackIntoTheZone) {
+  hold(1, hex("21 00 00 24 ff 3a 1b 01"));
+  const Bytes sent = joined({hex("01 00 08 00 21 00 00 24 ff 3a 1b 01"), zeros(16)});
+  const auto in_alias = [&](Script& script) {
+    script.expect(read_member(1, 0, kInAlias, 3, 2)).gives({entry_});
+    script.expect(parse_member(head_of(entry_))).as(entry_[20], value_);
+  };
+  Script script;
+  expect_in_all_zones(script);
+  expect_in_its_zone(script);
+  expect_in_all_zones(script);
+  expect_in_its_zone(script);
+  script.expect(read_all_aliases(1, 0)).gives({alias_entry(1, 3, "disks", {2})});
+  in_alias(script);
+  script.expect(read_alias(1, 0, 3)).gives({alias_entry(1, 3, "disks", {2})});
+  in_alias(script);
+  expect_removal(script, sent);
+  script.expect(query_name_for_id(1, 2, 3)).gives("disks");
+  script.expect(add_alias_member(0, 1, "disks", sent)).returns(0x40010006);
+  script.expect(query_name_for_id(1, 0, 7)).gives("web");
+  script.expect(add_zone_member(1, 1, "web", sent)).returns(0);
+  const Outcome answer = remove(member("1^2^21000024FF3A1B01^0"));
+  EXPECT_EQ(answer.code, CMPI_RC_ERR_FAILED);
+  EXPECT_EQ(answer.message,
+            "the zone server does not remove zone member 1^2^21000024FF3A1B01^0 everywhere (status "
+            "1073807366)");
 }
 
 TEST_F(ZoningMemberCalls, ATextThatIsNoSymbolicNameIsRemovedAsTheOtherType) {

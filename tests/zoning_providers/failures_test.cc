@@ -1,7 +1,5 @@
 // Every read that fails and every allocation that fails, for every way to ask for zoning.
-#include <functional>
-
-#include "tests/support/heap_ledger.h"
+#include "tests/providers/operation_sweep.h"
 #include "tests/zoning_providers/zoning_fixture.h"
 
 namespace {
@@ -29,57 +27,33 @@ ZoneReadResponse answer(const ZoneReadRequest& request) {
 
 class ZoningFailures : public ZoningFixture {
  protected:
-  struct Operation {
-    std::string name;
-    std::function<CMPIStatus(const CMPIResult*)> run;
-  };
-
   std::vector<Operation> operations() {
-    CMPIInstanceMI* mi = instances_;
-    CMPIAssociationMI* am = associations_;
     std::vector<Operation> all;
     for (const char* cls :
          {"VEXOR_ZoneSet", "VEXOR_Zone", "VEXOR_ZoneAlias", "VEXOR_ZoneMemberSettingData",
           "VEXOR_ZoneMemberOfCollection", "VEXOR_ZoneElementSettingData",
           "VEXOR_ZoneHostedCollection", "VEXOR_HostedCollection", "VEXOR_HostedService",
-          "VEXOR_ZoneCapabilities"}) {
-      const auto* path = broker_.path(cls);
-      all.push_back({std::string("instances of ") + cls, [=](const CMPIResult* to) {
-                       return mi->ft->enumerateInstances(mi, nullptr, to, path, nullptr);
-                     }});
-    }
+          "VEXOR_ZoneCapabilities"})
+      all.push_back(sweep_.instances_of(broker_.path(cls)));
     for (CMPIObjectPath* path :
          {zone_set("1_2_0"), zone("1_7_0"), alias("1_3_0"), member("1^2^2100000000000001^0"),
           association("VEXOR_ZoneElementSettingData", "ManagedElement", alias("1_3_0"),
                       "SettingData", member("1^2^2100000000000000^0")),
           association("VEXOR_ZoneMemberOfCollection", "Collection", zone("1_7_0"), "Member",
                       alias("1_3_0"))})
-      all.push_back({"get " + broker_.text(path), [=](const CMPIResult* to) {
-                       return mi->ft->getInstance(mi, nullptr, to, path, nullptr);
-                     }});
-    const auto walk = [&](CMPIObjectPath* path, const char* cls) {
-      all.push_back({"from " + broker_.text(path) + " by " + cls, [=](const CMPIResult* to) {
-                       return am->ft->associators(am, nullptr, to, path, cls, nullptr, nullptr,
-                                                  nullptr, nullptr);
-                     }});
-    };
+      all.push_back(sweep_.getting(path));
     for (CMPIObjectPath* path : {zone_set("1_2_0"), zone("1_7_0"), alias("1_3_0")}) {
-      walk(path, "VEXOR_ZoneMemberOfCollection");
-      walk(path, "VEXOR_ZoneHostedCollection");
+      all.push_back(sweep_.associators_of(path, "VEXOR_ZoneMemberOfCollection"));
+      all.push_back(sweep_.associators_of(path, "VEXOR_ZoneHostedCollection"));
     }
     for (CMPIObjectPath* path : {zone("1_7_0"), alias("1_3_0"), member("1^2^2100000000000001^0")})
-      walk(path, "VEXOR_ZoneElementSettingData");
-    walk(vsan_path("2001000DEC0A1B2D"), "VEXOR_ZoneHostedCollection");
+      all.push_back(sweep_.associators_of(path, "VEXOR_ZoneElementSettingData"));
+    all.push_back(
+        sweep_.associators_of(vsan_path("2001000DEC0A1B2D"), "VEXOR_ZoneHostedCollection"));
     return all;
   }
 
-  void expect_clear_end(const Operation& operation, const CMPIStatus& status,
-                        const Returned& returned) {
-    const HeapLedger::Pause pause;
-    EXPECT_TRUE(lock_is_free()) << operation.name;
-    EXPECT_EQ(returned.done, status.rc == CMPI_RC_OK ? 1 : 0) << operation.name;
-    EXPECT_EQ(broker_.text(status.msg).empty(), status.rc == CMPI_RC_OK) << operation.name;
-  }
+  OperationSweep sweep_{broker_, instances_, associations_, methods_};
 };
 
 TEST_F(ZoningFailures, AnExchangeThatFailsEndsInAClearStatusAndLeavesNothing) {
@@ -89,21 +63,12 @@ TEST_F(ZoningFailures, AnExchangeThatFailsEndsInAClearStatusAndLeavesNothing) {
     ZoneReadResponder zone_server([&](const ZoneReadRequest& request) -> ZoneReadResponse {
       return ++call == failing ? ZoneReadResponse{-1, 0, std::nullopt} : answer(request);
     });
-    const auto run = [&] {
-      call = 0;
-      Returned returned;
-      const CMPIResult* result = broker_.result(returned);
-      const HeapLedger ledger;
-      const CMPIStatus status = operation.run(result);
-      expect_clear_end(operation, status, returned);
-      const HeapLedger::Pause pause;
-      returned = {};
-      return status.rc;
-    };
-    EXPECT_EQ(run(), CMPI_RC_OK) << operation.name;
+    EXPECT_EQ(sweep_.run(operation).code, CMPI_RC_OK) << operation.name;
     const size_t calls = call;
-    for (failing = 1; failing <= calls; ++failing)
-      run();
+    for (failing = 1; failing <= calls; ++failing) {
+      call = 0;
+      sweep_.run(operation);
+    }
   }
 }
 
@@ -115,27 +80,20 @@ TEST_F(ZoningFailures, AReplyThatIsOneByteShortIsNoRecord) {
       if (response.reply) response.reply->pop_back();
       return response;
     });
-    Returned returned;
-    const CMPIResult* result = broker_.result(returned);
-    const HeapLedger ledger;
-    expect_clear_end(operation, operation.run(result), returned);
-    const HeapLedger::Pause pause;
-    returned = {};
+    sweep_.run(operation);
   }
 }
 
-TEST_F(ZoningFailures, AnAllocationThatFailsLeavesNothing) {
+TEST_F(ZoningFailures, AnAllocationThatFailsFailsTheRequestAndLeavesNothing) {
   ZoneReadResponder zone_server(answer);
   for (const Operation& operation : operations()) {
-    const size_t rounds = for_every_failing_allocation([&](FailingAllocation& round) {
-      Returned returned;
-      const CMPIResult* result = broker_.result(returned);
-      const CMPIStatus status = round.attempt([&] { return operation.run(result); });
-      expect_clear_end(operation, status, returned);
-      const HeapLedger::Pause pause;
-      returned = {};
-    });
-    EXPECT_GT(rounds, 1u) << operation.name;
+    const Outcome whole = sweep_.run(operation);
+    const size_t failed = sweep_.sweep_allocations(
+        operation, whole, [&](const Outcome& outcome, const std::string& what) {
+          EXPECT_EQ(outcome.code, CMPI_RC_ERR_FAILED) << what;
+          OperationSweep::expect_objects_of(what, whole.returned, outcome.returned);
+        });
+    EXPECT_GT(failed, 0u) << operation.name;
   }
 }
 
