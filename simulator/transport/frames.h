@@ -2,8 +2,10 @@
 //
 //   frame     length (4 bytes, of all that follows), kind (4), body
 //   request   body: now (8, milliseconds), service (4), opcode (4), operation (4), the bytes
-//   outcome   body: now (8), status (4), errno (4), after (8, milliseconds), has_reply (4), the
-//   bytes fabric request, fabric   body: nothing; the text of a fabric file
+//   outcome   body: now (8), status (4), errno (4), after (8, milliseconds), has_reply (4), bytes
+//
+//   fabric request    body: nothing
+//   fabric            body: the text of a fabric file
 //
 // `now` is the sender's virtual clock: time that one process has waited has passed for all of them.
 #ifndef SIMULATOR_TRANSPORT_FRAMES_H
