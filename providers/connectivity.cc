@@ -8,7 +8,6 @@
 #include <switch_platform/if_index.h>
 #include <switch_platform/port_manager.h>
 
-#include <cstring>
 #include <unordered_map>
 #include <unordered_set>
 

@@ -372,7 +372,9 @@ void modify_port_settings(int32_t q, const OwnPort& port, const NewValues& value
   const int32_t status = pm_cim_set_port_admin_mode(*type, if_index, q);
   if (status == 0) return;
   const uint16_t old_type = pm_cim_convert_port_mode_fcportsettings(port.info->admin_mode);
-  if (may_be_done(status) && is_type(old_type)) pm_cim_set_port_admin_mode(old_type, if_index, q);
+  // Not every mode can be asked for: in its place the port would get one that it never had.
+  const bool can_be_restored = pm_cim_convert_cimport_mode(old_type) == port.info->admin_mode;
+  if (may_be_done(status) && can_be_restored) pm_cim_set_port_admin_mode(old_type, if_index, q);
   if (speed && (!can_be_set(old) || pm_cim_set_port_admin_speed(old, if_index, q) != 0))
     throw Failure(CMPI_RC_ERR_FAILED,
                   "the port manager refuses the type of %s (status %d), and keeps the new speed",

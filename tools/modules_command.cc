@@ -1,7 +1,6 @@
 #include "tools/modules_command.h"
 
 #include <map>
-#include <memory>
 #include <utility>
 #include <vector>
 

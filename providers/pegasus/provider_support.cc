@@ -47,8 +47,10 @@ Lock::~Lock() {
 int32_t bound_queue() {
   int32_t of_session = -1;
   int of_face = -1;
-  if (mts_q < 0) session_is_ours = true;
-  if (::init_mts(&of_session) != 0 || ProviderUtil::init_mts(&of_face) != 0)
+  const bool was_unbound = mts_q < 0;
+  const bool is_bound = ::init_mts(&of_session) == 0;
+  if (was_unbound) session_is_ours = is_bound;
+  if (!is_bound || ProviderUtil::init_mts(&of_face) != 0)
     fail(Pegasus::CIM_ERR_FAILED, "the switch's response queue cannot be bound");
   return of_session;
 }

@@ -58,7 +58,6 @@ class Platform {
   // Queues. A handle is never used twice.
   int32_t bind();
   bool unbind(int32_t q);
-  bool is_bound(int32_t q) const { return queues_.contains(q); }
   int last_error(int32_t q) const;
   void set_last_error(int32_t q, int error_number);
 

@@ -266,12 +266,13 @@ std::optional<FabricError> StateStore::save(const Request& request, const Fabric
 }
 
 // A file that is gone, and one that was replaced by a copy of itself, hold no change that is not in
-// the fabric of this process.
+// the fabric of this process. Where there is a journal, the file alone does not tell that fabric.
 std::optional<FabricError> StateStore::problem_with_others() const {
   if (path_.empty()) return std::nullopt;
   const auto file = identity_of(path_);
   const auto journal = identity_of(journal_path());
-  const bool same_file = !file || file == file_ || (file_ && has_checksum(path_, checksum_));
+  const bool is_copy = file_ && journal_size_ == 0 && has_checksum(path_, checksum_);
+  const bool same_file = !file || file == file_ || is_copy;
   const bool same_journal = !journal || journal == journal_file_;
   if (same_file && same_journal) return std::nullopt;
   return FabricError{path_ + ": another process has changed it meanwhile"};
@@ -280,7 +281,9 @@ std::optional<FabricError> StateStore::problem_with_others() const {
 // False when the files are no longer those that this process wrote or read last.
 bool StateStore::is_undisturbed() const {
   if (!file_ || identity_of(path_) != file_) return false;
-  if (journal_ == nullptr) return true;
+  if (journal_ == nullptr) {
+    return journal_size_ == 0 || identity_of(journal_path()) == journal_file_;
+  }
   struct stat journal {};
   return fstat(fileno(journal_.get()), &journal) == 0 && journal.st_nlink != 0 &&
          static_cast<size_t>(journal.st_size) == journal_size_;
@@ -302,7 +305,12 @@ std::optional<FabricError> StateStore::write_anew(const Fabric& changed) {
     errno = error;
     if (!written) return failure(journal);
   }
-  if (auto error = save_text_file(text, path_)) return error;
+  const auto before = identity_of(path_);
+  auto error = save_text_file(text, path_);
+  // After some errors the new file is in its place all the same, such as when the folder cannot be
+  // made durable.
+  const bool is_there = identity_of(path_) != before && has_checksum(path_, checksum_of(text));
+  if (error && !is_there) return error;
   // Who has found the new file since may have changed it already, or begun a journal for it: then
   // they are not taken for this process's own.
   const FileLock lock(path_);
@@ -313,7 +321,7 @@ std::optional<FabricError> StateStore::write_anew(const Fabric& changed) {
   // One that stays is known by its last record.
   if (is_replaced_by(text_of(journal), checksum_) && unlink(journal.c_str()) == 0)
     journal_file_.reset();
-  return std::nullopt;
+  return error;
 }
 
 // Opens the journal, cut to what counts in it.

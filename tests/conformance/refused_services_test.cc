@@ -101,10 +101,13 @@ class RefusedServices : public testing::Test {
             if (const auto* path = std::get_if<PathPtr>(&property.data.element))
               follow(**path, cls->name + ", refused: " + refusal.name);
       } catch (const CimError& error) {
-        if (error.code() == CMPI_RC_ERR_NOT_FOUND || error.what()[0] == '\0')
+        // Only a refusal is a reason to tell nothing.
+        if (refusal.faults.empty() || error.code() == CMPI_RC_ERR_NOT_FOUND ||
+            error.what()[0] == '\0')
           problems_.push_back(cls->name + ": " + error.what());
       }
     }
+    if (refusal.faults.empty() && asked_.empty()) problems_.push_back("no reference is told");
   }
 
   Texts problems_;

@@ -399,9 +399,11 @@ void expect_as(const std::vector<Row>& rows, Area area, ExchangeFailure how, con
     for (const Round& round : failing(row, how)) {
       found.insert({label, ++exchange, difference(unharmed, round.text)});
       const bool goes_well = how == ExchangeFailure::cut_reply && kNoBlock.contains(round.function);
-      expected.insert({label, exchange, goes_well ? "" : known[{label, exchange}]});
+      const auto call = known.find({label, exchange});
+      EXPECT_NE(call, known.end()) << "not listed: " << exchange;
+      expected.insert({label, exchange, goes_well || call == known.end() ? "" : call->second});
     }
-    // Every call is listed, and every listed call is made.
+    // Every listed call is made.
     const auto of_row = [&label](const auto& call) { return call.first.first == label; };
     EXPECT_EQ(static_cast<size_t>(std::count_if(known.begin(), known.end(), of_row)), exchange);
   }

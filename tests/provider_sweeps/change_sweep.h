@@ -25,12 +25,13 @@ class ChangeSweep : public ProviderSweep {
     end_ = control::fabric_text();
     EXPECT_NE(begin_text_, end_) << change.name;
     begin_again();
-    sweep_.sweep_allocations(change, undisturbed,
-                             [&](const Outcome& outcome, const std::string& what) {
-                               EXPECT_NE(outcome.code, CMPI_RC_OK) << what;
-                               expect_all_or_nothing(what);
-                               begin_again();
-                             });
+    const size_t failed = sweep_.sweep_allocations(
+        change, undisturbed, [&](const Outcome& outcome, const std::string& what) {
+          EXPECT_NE(outcome.code, CMPI_RC_OK) << what;
+          expect_all_or_nothing(what);
+          begin_again();
+        });
+    EXPECT_GT(failed, 0u) << change.name;
     begin_again();
     sweep_exchanges(change, undisturbed);
   }
@@ -38,6 +39,7 @@ class ChangeSweep : public ProviderSweep {
  private:
   void sweep_exchanges(const Operation& change, const Outcome& undisturbed) {
     const auto faults = failing_exchanges(change, Ways::every);
+    EXPECT_FALSE(faults.empty()) << change.name;
     begin_again();
     for (const Fault& fault : faults) {
       const std::string what = change.name + ", " + name_of(fault);

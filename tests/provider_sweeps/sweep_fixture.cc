@@ -137,7 +137,9 @@ Outcome ProviderSweep::run_with(const Fault& fault, const Operation& operation) 
   const control::Outstanding before = control::outstanding();
   const std::string what = operation.name + ", " + name_of(fault);
   control::set_faults({fault});
+  control::clear_log();
   Outcome outcome = sweep_.run({what, operation.run});
+  EXPECT_GE(control::exchange_count(), fault.nth) << what << ": not reached";
   control::set_faults({});
   const control::Outstanding after = control::outstanding();
   EXPECT_EQ(after.messages, before.messages) << what;

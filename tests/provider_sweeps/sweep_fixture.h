@@ -53,8 +53,9 @@ class ProviderSweep : public ProviderObjects {
 
   // An operation with its n-th exchange failing, for each of its exchanges. Calls
   // judge(const Outcome&, const std::string& what) after each. Undisturbed again, it gives `whole`.
+  // Result: how many failures there were.
   template <class Judge>
-  void sweep_exchanges(const Operation& operation, Ways ways, const Outcome& whole, Judge judge) {
+  size_t sweep_exchanges(const Operation& operation, Ways ways, const Outcome& whole, Judge judge) {
     constexpr size_t kTriedAgain = 5;  // after so many failures
     const std::vector<Fault> faults = failing_exchanges(operation, ways);
     for (size_t i = 0; i < faults.size(); ++i) {
@@ -63,6 +64,7 @@ class ProviderSweep : public ProviderObjects {
       if (i % kTriedAgain == 0 || i + 1 == faults.size())
         OperationSweep::expect_same("after " + what, whole, sweep_.run(operation));
     }
+    return faults.size();
   }
 
   // How each exchange of an operation can fail. It is run to find them.

@@ -562,11 +562,13 @@ TEST_F(PegasusSwitchProvider, TheSwitchHasThePropertiesOfItsGetters) {
       {"OperationalStatus", "2"},
       {"Status", "OK"},
       {"Dedicated", "5"},
+      {"Caption", "Simulated Fibre Channel switch"},
+      {"Description", "Simulated Fibre Channel switch"},
+      {"PrimaryOwnerName", "storage-team@example.com"},
+      {"PrimaryOwnerContact", "storage-team@example.com"},
       {"PowerManagementCapabilities", "1"}};
   for (const auto& [name, text] : properties)
     EXPECT_EQ(text, value(own, name)) << name;
-  EXPECT_EQ(value(own, "Caption"), value(own, "Description"));
-  EXPECT_EQ(value(own, "PrimaryOwnerName"), value(own, "PrimaryOwnerContact"));
   EXPECT_EQ(15U, own.getPropertyCount());
 }
 
@@ -591,20 +593,19 @@ TEST_F(PegasusSwitchProvider, PropertiesAreOfTheTypesThatTheClassDeclares) {
 }
 
 TEST_F(PegasusSwitchProvider, AnotherSwitchIsNotFound) {
-  EXPECT_NE(std::string::npos, error_of_get(provider_, path_of(kRemote)).find("6 "));
-  EXPECT_NE(std::string::npos, error_of_get(provider_, path_of("N/A")).find("6 "));
-  EXPECT_NE(std::string::npos,
-            error_of_get(provider_, path_of(kOwn, "VEXOR_PhysicalComputerSystem")).find("6 "));
+  EXPECT_TRUE(error_of_get(provider_, path_of(kRemote)).starts_with("6 "));
+  EXPECT_TRUE(error_of_get(provider_, path_of("N/A")).starts_with("6 "));
+  EXPECT_TRUE(
+      error_of_get(provider_, path_of(kOwn, "VEXOR_PhysicalComputerSystem")).starts_with("6 "));
 }
 
 TEST_F(PegasusSwitchProvider, AnotherClassIsRefused) {
-  EXPECT_EQ("5 this provider serves VEXOR_Switch only",
-            error_of_get(provider_, named(kOwn)).substr(0, 42));
+  EXPECT_EQ("5 this provider serves VEXOR_Switch only", error_of_get(provider_, named(kOwn)));
   Paths paths;
-  EXPECT_NE("(nothing)",
+  EXPECT_EQ("5 this provider serves VEXOR_Switch only",
             error_of([&] { provider_->enumerateInstanceNames(context_, of_class(), paths); }));
   Instances instances;
-  EXPECT_NE("(nothing)", error_of([&] {
+  EXPECT_EQ("5 this provider serves VEXOR_Switch only", error_of([&] {
               provider_->enumerateInstances(context_, of_class(), true, true, CIMPropertyList(),
                                             instances);
             }));
@@ -645,15 +646,15 @@ TEST_F(PegasusSwitchProvider, NothingOfTheSwitchIsChanged) {
                                                            CIMInstance(CIMName(kSwitch)), true,
                                                            CIMPropertyList(), done);
                                }).find("VEXOR_PhysicalComputerSystem"));
-  EXPECT_NE("(nothing)", error_of([&] {
-              Done done;
-              provider_->deleteInstance(context_, path_of(kOwn), done);
-            }));
-  EXPECT_NE("(nothing)", error_of([&] {
-              Paths made;
-              provider_->createInstance(context_, of_class(kSwitch), CIMInstance(CIMName(kSwitch)),
-                                        made);
-            }));
+  EXPECT_TRUE(error_of([&] {
+                Done done;
+                provider_->deleteInstance(context_, path_of(kOwn), done);
+              }).starts_with("7 "));
+  EXPECT_TRUE(error_of([&] {
+                Paths made;
+                provider_->createInstance(context_, of_class(kSwitch),
+                                          CIMInstance(CIMName(kSwitch)), made);
+              }).starts_with("7 "));
 }
 
 }  // namespace

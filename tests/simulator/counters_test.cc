@@ -13,7 +13,7 @@ using switch_sim::Fault;
 
 constexpr uint64_t kDay = 86'400'000;  // milliseconds
 
-class PortCounters : public SimulatorTest {
+class SimulatedCounters : public SimulatorTest {
  protected:
   fcIfAllCounters_t read(uint32_t if_index) {
     fcIfAllCounters_t* block = nullptr;
@@ -27,12 +27,12 @@ class PortCounters : public SimulatorTest {
   int32_t status = 0;
 };
 
-TEST_F(PortCounters, APortThatNothingWasConnectedToCountsNothing) {
+TEST_F(SimulatedCounters, APortThatNothingWasConnectedToCountsNothing) {
   expect_reply(call(34, 0x11004, 1, Pattern(4).at(0, "01010009").bytes()),
                Pattern(600).at(0, "01010009"));
 }
 
-TEST_F(PortCounters, TheClientGivesNumbersInHostOrder) {
+TEST_F(SimulatedCounters, TheClientGivesNumbersInHostOrder) {
   const Result wire = call(34, 0x11004, 1, Pattern(4).at(0, "01010001").bytes());
   ASSERT_EQ(600, wire.length);
   uint64_t frames = 0;
@@ -47,7 +47,7 @@ TEST_F(PortCounters, TheClientGivesNumbersInHostOrder) {
   EXPECT_LE(frames, 432'000'000U);
 }
 
-TEST_F(PortCounters, FramesHaveALegalSize) {
+TEST_F(SimulatedCounters, FramesHaveALegalSize) {
   const fcIfAllCounters_t counters = read(0x01010001);
   for (const auto& [frames, bytes] :
        {std::pair(counters.class2_frames_received, counters.class2_bytes_received),
@@ -60,7 +60,7 @@ TEST_F(PortCounters, FramesHaveALegalSize) {
   }
 }
 
-TEST_F(PortCounters, TheyMoveWithTheClockAndStandStillWithoutIt) {
+TEST_F(SimulatedCounters, TheyMoveWithTheClockAndStandStillWithoutIt) {
   const auto first = read(0x01010001);
   EXPECT_EQ(first.class3_frames_received, read(0x01010001).class3_frames_received);
   control::advance(std::chrono::seconds(10));
@@ -69,7 +69,7 @@ TEST_F(PortCounters, TheyMoveWithTheClockAndStandStillWithoutIt) {
   EXPECT_GT(second.class3_bytes_transmitted, first.class3_bytes_transmitted);
 }
 
-TEST_F(PortCounters, TheyCanBeFrozen) {
+TEST_F(SimulatedCounters, TheyCanBeFrozen) {
   control::freeze_counters(true);
   const auto first = read(0x01010001);
   control::advance(std::chrono::seconds(10));
@@ -80,7 +80,7 @@ TEST_F(PortCounters, TheyCanBeFrozen) {
   EXPECT_GT(read(0x01010001).class3_frames_received, first.class3_frames_received);
 }
 
-TEST_F(PortCounters, AResetThawsThem) {
+TEST_F(SimulatedCounters, AResetThawsThem) {
   control::freeze_counters(true);
   control::reset();
   const auto first = read(0x01010001);
@@ -88,7 +88,7 @@ TEST_F(PortCounters, AResetThawsThem) {
   EXPECT_GT(read(0x01010001).class3_frames_received, first.class3_frames_received);
 }
 
-TEST_F(PortCounters, AnErrorStormGrowsManyErrorsASteadyPortFew) {
+TEST_F(SimulatedCounters, AnErrorStormGrowsManyErrorsASteadyPortFew) {
   const auto storm = read(0x01010004);
   const auto steady = read(0x01010003);
   EXPECT_GT(storm.crc_errors, 100'000U);  // one day at 120 or more a minute
@@ -97,7 +97,7 @@ TEST_F(PortCounters, AnErrorStormGrowsManyErrorsASteadyPortFew) {
   EXPECT_GT(storm.link_failures, 0U);
 }
 
-TEST_F(PortCounters, APortChannelCountsWhatItsMembersDo) {
+TEST_F(SimulatedCounters, APortChannelCountsWhatItsMembersDo) {
   const auto channel = read(0x04000001);
   const auto left = read(0x01010005);
   const auto right = read(0x01010006);
@@ -108,7 +108,7 @@ TEST_F(PortCounters, APortChannelCountsWhatItsMembersDo) {
             channel.multicast_frames_transmitted);
 }
 
-TEST_F(PortCounters, OtherInterfacesHaveNone) {
+TEST_F(SimulatedCounters, OtherInterfacesHaveNone) {
   for (const uint32_t if_index : {0x02020001U, 0x04010002U, 0x05000001U, 0x0A000001U}) {
     read(if_index);
     EXPECT_EQ(0x40150001, status);
@@ -119,7 +119,7 @@ TEST_F(PortCounters, OtherInterfacesHaveNone) {
   expect_refused(call(34, 0x11004, 2, Pattern(4).at(0, "01010001").bytes()), kBadOperation);
 }
 
-TEST_F(PortCounters, AShortBlockIsHandedOutAsItCame) {
+TEST_F(SimulatedCounters, AShortBlockIsHandedOutAsItCame) {
   for (const int32_t length : {1, 7, 12, 599}) {
     control::set_faults({{.opcode = 0x11004, .kind = Fault::Kind::short_reply, .value = length}});
     fcIfAllCounters_t* block = nullptr;

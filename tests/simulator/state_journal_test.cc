@@ -265,6 +265,29 @@ TEST_F(StateJournal, AJournalThatSomebodyRemovedIsMissedByNobody) {
   EXPECT_EQ(kept, control::fabric());
 }
 
+TEST_F(StateJournal, AJournalThatSomebodyRemovedSinceItWasReadIsMissedByNobody) {
+  EXPECT_EQ(0, create("second"));
+  ASSERT_EQ(std::nullopt, reload());
+  std::filesystem::remove(journal);
+  EXPECT_EQ(0, create("third"));
+  const auto kept = control::fabric();
+  ASSERT_EQ(std::nullopt, reload());
+  EXPECT_EQ(kept, control::fabric());
+  EXPECT_TRUE(holds("second") && holds("third"));
+}
+
+// The file alone is as it was before the journal: what the journal told was undone meanwhile.
+TEST_F(StateJournal, AFileThatAnotherProcessWroteAnewWithoutTheJournalsChangesCounts) {
+  EXPECT_EQ(0, create("second"));
+  std::filesystem::copy(path, path + ".new");
+  std::filesystem::rename(path + ".new", path);
+  std::filesystem::remove(journal);
+  EXPECT_EQ(0, create("third"));
+  ASSERT_EQ(std::nullopt, reload());
+  EXPECT_FALSE(holds("second"));
+  EXPECT_TRUE(holds("third"));
+}
+
 TEST_F(StateJournal, AChangeThatCannotBeAppendedIsRefusedAndUndone) {
   std::filesystem::create_directory(journal);
   const auto before = control::fabric();

@@ -221,6 +221,7 @@ TEST_F(ZoningProcesses, AReaderDuringActivationsNeverSeesZonesOfTwoZoneSets) {
     }
     return refused;
   });
+  started.close_writer();
   testing::internal::CaptureStdout();
   {
     Client client;

@@ -30,6 +30,7 @@ class ZoningReplies : public testing::Test {
   }
 
   const TracesAside aside_;
+  HeapLedger ledger_;
 };
 
 // Every length from 0 to an entry and 8 bytes more; of those that hold no entry, whose contents
@@ -42,6 +43,7 @@ void sweep_objects(size_t size,
   Bytes reply;
   int32_t told = 0;
   ZoneReadResponder zone_server([&](const ZoneReadRequest&) {
+    const HeapLedger::Pause pause;
     return ZoneReadResponse{0, told, reply};
   });
   for (unsigned number = 0; number < kPatterns; ++number) {
@@ -95,6 +97,7 @@ class AnyReplies {
  public:
   explicit AnyReplies(unsigned first) : number_(first) {}
   ZoneReadResponse operator()(const ZoneReadRequest& request) {
+    const HeapLedger::Pause pause;
     const size_t size = size_of_entry(request.function);
     const size_t lengths[] = {size, size - 1, size + size / 2};
     ++number_;
