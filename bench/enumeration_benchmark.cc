@@ -1,37 +1,16 @@
 // Reading whole tables over growing fabrics. The last lines give the growth: linear, or worse.
 #include <benchmark/benchmark.h>
 #include <cim_utils/domain_manager.h>
-#include <cim_utils/session.h>
 #include <cim_utils/vsan.h>
 
 #include <cstdio>
 #include <cstdlib>
 #include <string>
 
-#include "simulator/control/control.h"
+#include "bench/generated_fabric.h"
+#include "bench/traces_aside.h"
 
 namespace {
-
-// Traces are no part of what is measured; the report needs the real standard output.
-class TracesAside {
- public:
-  TracesAside() : real_(stdout) { stdout = std::fopen("/dev/null", "w"); }
-  ~TracesAside() {
-    std::fclose(stdout);
-    stdout = real_;
-  }
-
- private:
-  FILE* real_;
-};
-
-int32_t queue_on(const std::string& fabric, benchmark::State& state) {
-  if (const auto problem = switch_sim::control::install_generated(fabric))
-    state.SkipWithError(problem->c_str());
-  int32_t q = -1;
-  init_mts(&q);
-  return q;
-}
 
 void AllVsans(benchmark::State& state) {
   const TracesAside aside;

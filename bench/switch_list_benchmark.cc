@@ -5,12 +5,13 @@
 #include <cim_utils/fabric_configuration.h>
 
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
 #include <switch_platform/mts.h>
 #include <switch_platform/records_vsan.h>
+
+#include "bench/traces_aside.h"
 
 namespace {
 
@@ -71,8 +72,7 @@ int32_t cmi_req_resp(uint32_t opcode, uint32_t, const void* request, void** repl
 namespace {
 
 void AllPhysicalSwitches(benchmark::State& state) {
-  FILE* const real = stdout;
-  stdout = std::fopen("/dev/null", "w");
+  const TracesAside aside;
   switches = static_cast<uint32_t>(state.range(0));
   for (auto _ : state) {
     GSList* list = nullptr;
@@ -81,8 +81,6 @@ void AllPhysicalSwitches(benchmark::State& state) {
     cim_g_slist_destroy(list, nullptr);
   }
   state.SetComplexityN(state.range(0));
-  std::fclose(stdout);
-  stdout = real;
 }
 BENCHMARK(AllPhysicalSwitches)->RangeMultiplier(2)->Range(15, 239)->Complexity();
 

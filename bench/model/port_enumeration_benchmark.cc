@@ -6,43 +6,20 @@
 #include <cim_utils/fspf.h>
 #include <cim_utils/name_server.h>
 #include <cim_utils/port_manager.h>
-#include <cim_utils/session.h>
 #include <cim_utils/vsan.h>
 
 #include <cstdio>
 #include <cstdlib>
 #include <string>
 
+#include "bench/generated_fabric.h"
 #include "bench/model/null_broker.h"
-#include "simulator/control/control.h"
+#include "bench/traces_aside.h"
 
 namespace {
 
 constexpr const char* kNamespace = "root/cimv2";
 constexpr const char* kPort = "VEXOR_FCPort";
-
-// Traces are no part of what is measured; the report needs the real standard output.
-class TracesAside {
- public:
-  TracesAside() : real_(stdout) { stdout = std::fopen("/dev/null", "w"); }
-  TracesAside(const TracesAside&) = delete;
-  TracesAside& operator=(const TracesAside&) = delete;
-  ~TracesAside() {
-    std::fclose(stdout);
-    stdout = real_;
-  }
-
- private:
-  FILE* real_;
-};
-
-int32_t queue_on(const std::string& fabric, benchmark::State& state) {
-  if (const auto problem = switch_sim::control::install_generated(fabric))
-    state.SkipWithError(problem->c_str());
-  int32_t q = -1;
-  init_mts(&q);
-  return q;
-}
 
 std::string number(int64_t n) {
   return std::to_string(n);

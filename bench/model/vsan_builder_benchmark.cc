@@ -9,6 +9,7 @@
 #include <cstring>
 
 #include "bench/model/null_broker.h"
+#include "bench/traces_aside.h"
 
 namespace {
 
@@ -81,23 +82,6 @@ mts_dm_sw_conf_ some_configuration() {
   free_char_array(keys);
   return instance;
 }
-
-// The traces go to a file that nobody reads while one of these exists; results need the real one.
-class TracesAside {
- public:
-  TracesAside() {
-    std::fflush(stdout);
-    real_ = stdout;
-    stdout = std::fopen("/dev/null", "w");
-  }
-  ~TracesAside() {
-    std::fclose(stdout);
-    stdout = real_;
-  }
-
- private:
-  FILE* real_;
-};
 
 void StraightLine(benchmark::State& state) {
   const TracesAside aside;
