@@ -7,16 +7,11 @@
 #include <cim_utils/session.h>
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <new>
-#include <optional>
-
 #include "tests/model/class_source_double.h"
 #include "tests/model/computer_system_records.h"
 #include "tests/model/pegasus_text.h"
 #include "tests/model/port_records.h"
 #include "tests/support/capture.h"
-#include "tests/support/heap_ledger.h"
 
 using namespace test_support;
 using Pegasus::CIMInstance;
@@ -335,35 +330,6 @@ TEST_F(PegasusConnectivity, EveryExceptionIsTheCallers) {
   EXPECT_THROW(P::active_connection_fill_reference(kTie, bad, &disk_), Exception);
   EXPECT_THROW(P::system_device_fill_reference(0, kTie, bad, &domain_, &link_), Exception);
   EXPECT_THROW(P::system_device_build_object("no class", kNamespace, one_, two_), Exception);
-}
-
-TEST_F(PegasusConnectivity, EveryFailingAllocationIsTheCallersException) {
-  using P = ProviderUtil;
-  const std::function<CIMInstance()> builders[] = {
-      [this] { return P::logical_identity_build_instance(kTie, kNamespace, one_, two_); },
-      [this] { return P::realize_build_instance(kTie, kNamespace, one_, two_); },
-      [this] { return P::active_connection_build_instance(kTie, kNamespace, &link_, kQueue); },
-      [this] { return P::active_connection_build_instance(kTie, kNamespace, &disk_); },
-      [this] { return P::system_device_build_instance(9, kTie, kNamespace, &domain_, &link_); }};
-  Responder services([](const Request&) { return Response::failed(17); });
-  for (const auto& build : builders) {
-    const std::string whole = pegasus_text::of(build());
-    const size_t rounds = for_every_failing_allocation([&](FailingAllocation& round) {
-      std::optional<CIMInstance> built;
-      round.attempt([&] {
-        try {
-          built = build();
-        } catch (const std::bad_alloc&) {
-        }
-      });
-      // Sorting the keys gets along without the memory that it asks for.
-      EXPECT_TRUE(built.has_value() || round.was_hit()) << round.n();
-      if (built.has_value()) {
-        EXPECT_EQ(pegasus_text::of(*built), whole) << round.n();
-      }
-    });
-    EXPECT_GT(rounds, 10u);
-  }
 }
 
 }  // namespace

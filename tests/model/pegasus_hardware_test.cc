@@ -7,15 +7,10 @@
 #include <cim_utils/session.h>
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <new>
-#include <optional>
-
 #include "tests/model/class_source_double.h"
 #include "tests/model/hardware_records.h"
 #include "tests/model/pegasus_text.h"
 #include "tests/support/capture.h"
-#include "tests/support/heap_ledger.h"
 
 using namespace test_support;
 using Pegasus::CIMInstance;
@@ -368,42 +363,6 @@ TEST_F(PegasusHardware, EveryExceptionIsTheCallers) {
   EXPECT_THROW(ProviderUtil::switch_package_fill_reference(housing_, bad), Exception);
   EXPECT_THROW(ProviderUtil::physical_element_build_instance("no class", kNamespace, &port_),
                Exception);
-}
-
-// An instance that has the path and nothing else.
-CIMInstance with_path(const CIMObjectPath& path) {
-  CIMInstance instance{CIMName("C")};
-  instance.setPath(path);
-  return instance;
-}
-
-TEST_F(PegasusHardware, EveryFailingAllocationIsTheCallersException) {
-  const std::function<CIMInstance()> builders[] = {
-      [this] { return ProviderUtil::switch_package_build_instance(housing_, kNamespace); },
-      [] { return with_path(ProviderUtil::physical_package_fill_reference(kNamespace, kPackage)); },
-      [this] {
-        return with_path(
-            ProviderUtil::logical_module_fill_reference(kModule, kNamespace, &module_));
-      }};
-  Responder services([](const Request&) { return Response::with(records::own_wwn()); });
-  for (const auto& build : builders) {
-    const std::string whole = pegasus_text::of(build());
-    const size_t rounds = for_every_failing_allocation([&](FailingAllocation& round) {
-      std::optional<CIMInstance> built;
-      round.attempt([&] {
-        try {
-          built = build();
-        } catch (const std::bad_alloc&) {
-        }
-      });
-      // Sorting the keys gets along without the memory that it asks for.
-      EXPECT_TRUE(built.has_value() || round.was_hit()) << round.n();
-      if (built.has_value()) {
-        EXPECT_EQ(pegasus_text::of(*built), whole) << round.n();
-      }
-    });
-    EXPECT_GT(rounds, 10u);
-  }
 }
 
 }  // namespace

@@ -7,8 +7,7 @@
 #include <cim_utils/session.h>
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <new>
+#include <optional>
 
 #include "schema/repository.h"
 #include "tests/model/class_source_double.h"
@@ -16,7 +15,6 @@
 #include "tests/model/port_records.h"
 #include "tests/model/repository_class_source.h"
 #include "tests/support/capture.h"
-#include "tests/support/heap_ledger.h"
 #include "tests/support/recording_broker.h"
 #include "tests/support/transcript.h"
 
@@ -392,44 +390,6 @@ TEST_F(PegasusPorts, EveryOtherExceptionIsTheCallers) {
   EXPECT_THROW(ProviderUtil::port_stat_fill_reference(kData, bad, &port_), Exception);
   EXPECT_THROW(ProviderUtil::fcport_build_instance("no class", kNamespace, &disk_, 1, 0),
                Exception);
-}
-
-TEST_F(PegasusPorts, EveryFailingAllocationIsTheCallersException) {
-  define_classes();
-  const std::function<CIMInstance()> builders[] = {
-      [this] { return ProviderUtil::fcport_build_instance(kPort, kNamespace, &ethernet_); },
-      [this] {
-        return ProviderUtil::fcport_build_instance(0, kPort, kNamespace, &link_, &in_vsan_, 0, 1,
-                                                   1);
-      },
-      [this] { return ProviderUtil::fcport_build_instance(kPort, kNamespace, &disk_, 0, 0); },
-      [this] { return ProviderUtil::pe_build_instance(kEndpoint, kNamespace, &port_); },
-      [this] {
-        return ProviderUtil::logical_port_group_build_instance(kGroup, kNamespace, &node_);
-      },
-      [this] {
-        return ProviderUtil::fcport_stat_build_instance(kStatistics, kNamespace, &counters_);
-      },
-      [this] { return ProviderUtil::port_stat_build_instance(kData, kNamespace, &port_); },
-  };
-  for (const auto& build : builders) {
-    const std::string whole = pegasus_text::of(build());
-    const size_t rounds = for_every_failing_allocation([&](FailingAllocation& round) {
-      std::optional<CIMInstance> built;
-      round.attempt([&] {
-        try {
-          built = build();
-        } catch (const std::bad_alloc&) {
-        }
-      });
-      // Sorting the keys gets along without the memory that it asks for.
-      EXPECT_TRUE(built.has_value() || round.was_hit()) << round.n();
-      if (built.has_value()) {
-        EXPECT_EQ(pegasus_text::of(*built), whole) << round.n();
-      }
-    });
-    EXPECT_GT(rounds, 10u);
-  }
 }
 
 // ---- our own class definitions

@@ -7,10 +7,6 @@
 #include <Pegasus/Common/Exception.h>
 #include <Pegasus/Common/String.h>
 
-#include <functional>
-#include <new>
-#include <optional>
-
 #include "tests/model/class_source_double.h"
 #include "tests/model/pegasus_text.h"
 #include "tests/model/switch_records.h"
@@ -18,7 +14,6 @@
 #include "tests/model/zoning_records.h"
 #include "tests/support/capture.h"
 #include "tests/support/double_zone_server.h"
-#include "tests/support/heap_ledger.h"
 
 using namespace test_support;
 using Pegasus::CIMInstance;
@@ -382,34 +377,6 @@ TEST_F(PegasusZoning, EveryExceptionIsTheCallers) {
   EXPECT_THROW(P::zone_build_instance(kNamespace, "no class", &zone_), Exception);
   EXPECT_THROW(P::zmoc_fill_reference(bad, "C", &zone_, &alias_), Exception);
   EXPECT_THROW(P::hosted_collection_build_object(bad, "D", &vsan_, &conf_, 10), Exception);
-}
-
-TEST_F(PegasusZoning, EveryFailingAllocationIsTheCallersException) {
-  const std::function<CIMInstance()> builders[] = {
-      [this] { return ProviderUtil::zone_set_build_instance(kNamespace, "C", &zone_set_); },
-      [this] { return ProviderUtil::zone_build_instance(kNamespace, "C", &zone_); },
-      [this] {
-        return ProviderUtil::hosted_collection_build_instance_zone(kNamespace, "D", &vsan_, &conf_,
-                                                                   &zone_);
-      }};
-  for (const auto& build : builders) {
-    const std::string whole = pegasus_text::of(build());
-    const size_t rounds = for_every_failing_allocation([&](FailingAllocation& round) {
-      std::optional<CIMInstance> built;
-      round.attempt([&] {
-        try {
-          built = build();
-        } catch (const std::bad_alloc&) {
-        }
-      });
-      // Sorting the keys gets along without the memory that it asks for.
-      EXPECT_TRUE(built.has_value() || round.was_hit()) << round.n();
-      if (built.has_value()) {
-        EXPECT_EQ(pegasus_text::of(*built), whole) << round.n();
-      }
-    });
-    EXPECT_GT(rounds, 10u);
-  }
 }
 
 }  // namespace
